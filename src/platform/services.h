@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Os(): the services that this process works with.
+//
+// A program installs the real ones at the start of main, before anything else runs; a test installs its own.
+// The pointers are not owned. Set once on one thread, then only read.
+#pragma once
+
+namespace platform
+{
+
+class CFileSystem;
+class CRegistry;
+class CProfiles;
+class CShell;
+class CMessages;
+class CUtility;
+class CImageLibrary;
+
+struct Services {
+    CFileSystem* files = nullptr;
+    CRegistry* registry = nullptr;
+    CProfiles* profiles = nullptr;
+    CShell* shell = nullptr;
+    CMessages* messages = nullptr;  // null in programs without a window
+    CUtility* utility = nullptr;
+    CImageLibrary* images = nullptr;
+};
+
+inline Services& Os()
+{
+    static Services services;
+    return services;
+}
+
+}  // namespace platform
