@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CMediaFileList: the files of one folder as the right pane shows them, and the work on their thumbnails.
+//
+// This is the list without its window. The owner calls FillStep until the folder is read, then ThumbnailStep
+// on each tick of its timer; each call does a small piece of work (at most one thumbnail), so that a window
+// stays live on one thread. Items are ordered by name (NameBefore), folders first.
+//
+// Item indexes hold until the next fill ends. Bitmaps of items far from the visible ones are let go when
+// there are too many and come back from the store when they are visible again.
+#pragma once
+
+#include "browser/media_types.h"
+#include "browser/thumb_db_mgr.h"
+#include "browser/thumbnail_store.h"
+#include "platform/file_system.h"
+#include "platform/image.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace browser
+{
+
+struct MediaItem {
+    std::string name;
+    std::uint64_t fileSize = 0;
+    platform::FileTime creationTime = 0;
+    platform::FileTime lastWriteTime = 0;
+    platform::FileTime thirdTime = 0;
+    platform::BitmapHandle thumbnail;  // empty until made, and again when let go
+    std::uint8_t types = 0;
+    bool isFolder = false;
+    bool isLink = false;
+    bool needsThumbnail = false;
+    bool thumbnailDone = false;    // made once, whether or not the bitmap is still held
+    bool thumbnailFailed = false;  // the latest attempt gave none
+    bool factsKnown = false;       // size and times have been read
+};
+
+// A store entry whose three texts are to be set when there is nothing else to do.
+struct EntryUpdate {
+    std::string sourcePath;
+    std::string entryName;
+    std::string caption;
+    std::string timeStampText;
+    std::string secondText;
+};
+
+enum class ThumbnailResult { none, made, reused };
+
+struct ThumbnailOutcome {
+    ThumbnailResult result = ThumbnailResult::none;
+    platform::BitmapHandle bitmap;
+    platform::Extent source;  // known when it was made
+    std::string dateText;
+};
+
+struct VisibleRange {
+    int first = 0;
+    int last = -1;  // inclusive
+};
+
+struct StepOutcome {
+    int redraw = -1;        // the item that got its thumbnail, or -1
+    bool moreToDo = false;  // false: ticking can stop until something changes
+};
+
+enum class FillState { idle, reading, failed };
+
+class CMediaFileList
+{
+public:
+    // The value of SetFilter that keeps a setting.
+    static constexpr int kKeep = -1;
+
+    explicit CMediaFileList(CThumbDbMgr* storeManager = nullptr);
+
+    // --- Filling -----------------------------------------------------------------------------------------
+    // Starts reading a folder. The items shown so far stay until the fill ends. False when the folder cannot
+    // be read; the list is then empty and FillError says why.
+    bool StartFill(const std::string& folderPath);
+    // Does one piece of the work; true while there is more to do.
+    bool FillStep();
+    // StartFill and all of its steps.
+    bool Fill(const std::string& folderPath);
+    // Reads the same folder anew.
+    bool Refresh() { return StartFill(folder); }
+    FillState State() const { return state; }
+    const std::string& FillError() const { return fillError; }
+    std::size_t FilledSoFar() const { return incomingCount; }
+
+    // Either argument may be kKeep. True when something changed, so that the list is to be read anew.
+    bool SetFilter(int mode, int includeFolders);
+    int Filter() const { return filter; }
+    bool IncludeFolder() const { return includeFolder; }
+    void SetRefreshing(bool on) { refreshing = on; }
+    bool IsRefreshing() const { return refreshing; }
+
+    // --- Items -------------------------------------------------------------------------------------------
+    const std::string& Folder() const { return folder; }
+    int Count() const { return static_cast<int>(items.size()); }
+    const MediaItem& Item(int index) const { return items[static_cast<std::size_t>(index)]; }
+    std::string PathOf(int index) const;
+    // Reads size and times of the item unless they are known; false when the file is gone.
+    bool ReadFacts(int index);
+    // Reads the facts of the next items that lack them; true while there are more.
+    bool FactsStep(int most);
+    // The sum of the sizes read so far, and whether it covers every item.
+    std::uint64_t KnownBytes() const { return knownBytes; }
+    bool AllFactsKnown() const { return nextFactsItem >= Count(); }
+
+    // --- Thumbnails --------------------------------------------------------------------------------------
+    // One tick: the first visible item without a thumbnail, else the next one of the rest, else the deferred
+    // entry updates. At most one thumbnail is made.
+    StepOutcome ThumbnailStep(bool thumbnailView, std::optional<VisibleRange> visible);
+    // Makes or takes from the store the item's thumbnail and keeps it in the item.
+    ThumbnailOutcome CreateThumbnail(int index);
+    // The thumbnail of that item is to be made again even if there is one.
+    void InvalidateThumbnail(int index) { pendingThumbItems.insert(index); }
+    void QueueEntryUpdate(EntryUpdate update) { pendingEntryUpdates.push_back(std::move(update)); }
+    void SetUseThumbStore(bool on) { useThumbStore = on; }
+    // Items that need a thumbnail and have not had one; items that failed are not counted.
+    int ThumbnailsLeft() const { return thumbnailsLeft; }
+
+private:
+    struct Source;
+    void TakeOver(std::vector<MediaItem> filled);
+    void ReadChunk();
+    void MergeRuns();
+    bool Wanted(const platform::FolderEntry& entry) const;
+    std::optional<std::string> SourcePath(int index, unsigned& types) const;
+    int VisibleStep(VisibleRange visible);
+    int RestStep(VisibleRange visible, bool& outOfTime);
+    void ApplyEntryUpdates();
+    void Hold(int index, platform::BitmapHandle bitmap);
+    void LetGoFarBitmaps(VisibleRange visible);
+
+    std::string folder;
+    std::vector<MediaItem> items;
+    CPatternList patterns;
+    int filter = kFilterMedia;
+    bool includeFolder = false;
+    bool refreshing = false;
+
+    FillState state = FillState::idle;
+    std::string fillError;
+    std::unique_ptr<platform::CFolderReader> reader;
+    std::vector<std::vector<MediaItem>> runs;  // sorted pieces of the folder being read
+    std::size_t incomingCount = 0;
+    bool readerAtEnd = false;
+
+    std::uint64_t knownBytes = 0;
+    int nextFactsItem = 0;
+
+    std::optional<CThumbnailStore> store;
+    bool useThumbStore = true;
+    int nextThumbItem = 0;
+    int scanFrom = 0;  // where a tick that ran out of time goes on
+    int thumbnailsLeft = 0;
+    std::set<int> pendingThumbItems;
+    std::vector<EntryUpdate> pendingEntryUpdates;
+    std::deque<int> heldBitmaps;
+    std::size_t heldLimit = 128;
+};
+
+}  // namespace browser

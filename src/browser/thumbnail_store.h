@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CThumbnailStore: thumbnails kept in the archive of their folder, and taken from there while the file is
+// unchanged.
+#pragma once
+
+#include "browser/thumb_db_mgr.h"
+#include "platform/image.h"
+
+#include <optional>
+#include <string>
+
+namespace archive
+{
+class CPackageArchive;
+}
+
+namespace browser
+{
+
+struct StoredThumbnail {
+    platform::BitmapHandle bitmap;
+    platform::FileTime thirdTime = 0;
+    std::string dateText;
+};
+
+class CThumbnailStore
+{
+public:
+    explicit CThumbnailStore(CThumbDbMgr& owner) : manager(owner) {}
+
+    // The stored thumbnail of the file when the file still has the times and length that it had then; a file
+    // of length 0 is not compared. A stale member is removed.
+    std::optional<StoredThumbnail> Fetch(const std::string& path, const platform::FileFacts& facts);
+    // Keeps a thumbnail; false when the store cannot take it.
+    bool Keep(const std::string& path, const platform::Bitmap& bitmap, const platform::FileFacts& facts,
+              platform::FileTime thirdTime, const std::string& dateText);
+    // Sets the three texts of a member; false when the archive or the member is missing.
+    bool SetTexts(const std::string& path, const std::string& entryName, const std::string& caption,
+                  const std::string& timeStampText, const std::string& secondText);
+
+    static std::string EntryName(const std::string& path);
+    // The member of that file: the one of exactly its name, else one whose name differs in case only and
+    // belongs to no file of its own.
+    static std::optional<std::size_t> FindMember(const archive::CPackageArchive& opened,
+                                                 const std::string& path);
+
+private:
+    CThumbDbMgr& manager;
+};
+
+}  // namespace browser
