@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// File times, and the creation time that Linux keeps but does not let one set.
+//
+// A creation time is written where the file system offers a place for it: NTFS through FUSE as the attribute
+// "system.ntfs_crtime", a Windows share as "user.cifs.creationtime" (both the 64-bit number in native byte
+// order), anywhere else as the extended attribute "user.kelvo.creation-time", whose value is the number of
+// 100-nanosecond steps since 1601 in decimal digits. It is read from the same place; without one there the
+// birth time counts, then the modification time.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <ctime>
+#include <optional>
+#include <sys/stat.h>
+
+namespace platform_linux
+{
+
+platform::FileTime ToFileTime(std::int64_t seconds, std::uint32_t nanoseconds);
+timespec ToTimeSpec(platform::FileTime time);
+
+// One statx, and for regular files and folders one read of an attribute.
+std::optional<platform::FileFacts> ReadFacts(const std::string& path);
+bool WriteCreationTime(const std::string& path, platform::FileTime time);
+// Gives the open file `to` the creation time recorded in the attribute of `from`, if it has one.
+void KeepCreationTime(const std::string& from, int to);
+
+}  // namespace platform_linux

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CLinuxFile: an open regular file on a file descriptor.
+#pragma once
+
+#include "platform/file_system.h"
+#include "platform_linux/handle.h"
+
+#include <sys/stat.h>
+
+namespace platform_linux
+{
+
+// Opens without ever waiting for a pipe's or a device's other end: a closed handle, with the reason kept,
+// when the path cannot be opened in that way or is no regular file.
+CHandle OpenRegular(const std::string& path, platform::OpenMode mode);
+
+// Write all of `bytes` at `offset`, or at the current position.
+bool WriteAllAt(int fd, std::uint64_t offset, std::span<const std::byte> bytes);
+bool WriteAll(int fd, std::span<const std::byte> bytes);
+
+class CLinuxFile final : public platform::CFile
+{
+public:
+    explicit CLinuxFile(CHandle opened);
+
+    std::size_t ReadAt(std::uint64_t offset, std::span<std::byte> buffer) override;
+    bool WriteAt(std::uint64_t offset, std::span<const std::byte> bytes) override;
+    bool Truncate(std::uint64_t size) override;
+    bool Sync() override;
+    std::optional<platform::FileStamp> Stamp() override;
+    bool MarkChanged() override;
+    bool Lock(platform::LockKind kind, int patienceMilliseconds) override;
+    bool IsStill(const std::string& path) override;
+    void WillNeed(std::uint64_t offset, std::uint64_t length) override;
+
+private:
+    bool SetModified(std::int64_t nanoseconds);
+
+    CHandle handle;
+    std::int64_t latestModified = 0;  // nanoseconds since 1970; the latest seen of this file
+};
+
+std::int64_t ModifiedNanoseconds(const struct stat& facts);
+std::int64_t NowNanoseconds();
+// Whether `path` names the file open as `fd`.
+bool NamesDescriptor(const std::string& path, int fd);
+
+}  // namespace platform_linux

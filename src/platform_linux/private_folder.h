@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Folders that nobody but this user can look into or plant files in.
+#pragma once
+
+#include <string>
+
+namespace platform_linux
+{
+
+// The folder for this user's run-time files, made when missing: $XDG_RUNTIME_DIR/kelvo where that is this
+// user's own folder, else /tmp/kelvo-UID. Empty when there is none that is ours alone, for instance because
+// somebody else made the latter first.
+std::string PrivateRuntimeFolder();
+
+}  // namespace platform_linux
