@@ -1,6 +1,8 @@
 # SPDX-FileCopyrightText: The Kelvo authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
+get_filename_component(kelvoSource ${CMAKE_CURRENT_LIST_DIR}/../src ABSOLUTE)
+
 add_library(kelvo_options INTERFACE)
 target_compile_options(kelvo_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                        -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
@@ -14,7 +16,11 @@ target_include_directories(kelvo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 function(kelvo_module name)
   cmake_parse_arguments(arg "" "" "DEPENDS;LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  file(GLOB headers CONFIGURE_DEPENDS *.h)
   add_library(kelvo_${name} STATIC ${sources})
+  # As a set, the headers can be asked to compile alone; lint.headers does.
+  target_sources(kelvo_${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${kelvoSource} FILES ${headers})
+  set_target_properties(kelvo_${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
   list(TRANSFORM arg_DEPENDS PREPEND kelvo_)
   target_link_libraries(kelvo_${name} PUBLIC kelvo_options ${arg_DEPENDS} ${arg_LIBRARIES})
 endfunction()
