@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "suite/image/jpeg_decoder.h"
+
+#include "suite/image/area_scaler.h"
+#include "suite/image/jpeg_input.h"
+
+#include <algorithm>
+
+namespace suite
+{
+namespace
+{
+
+constexpr std::uint8_t kGrey = 0x80;
+
+int ScaledSide(int side, int divisor)
+{
+    return (side + divisor - 1) / divisor;
+}
+
+int SmallestScale(platform::Extent stored, platform::Extent target)
+{
+    for (const int divisor : {8, 4, 2}) {
+        if (ScaledSide(stored.width, divisor) >= target.width &&
+            ScaledSide(stored.height, divisor) >= target.height)
+            return divisor;
+    }
+    return 1;
+}
+
+bool IsCmyk(const jpeg_decompress_struct& info)
+{
+    return info.jpeg_color_space == JCS_CMYK || info.jpeg_color_space == JCS_YCCK;
+}
+
+// Files of Adobe's programs, practically all there are, store how much light each ink lets through.
+void ConvertCmykRow(std::uint8_t* row, unsigned width, bool storesLight)
+{
+    const std::uint8_t flip = storesLight ? 0 : 255;
+    for (unsigned x = 0; x < width; ++x, row += 4) {
+        const int black = row[3] ^ flip;
+        const int red = (row[0] ^ flip) * black / 255;
+        const int green = (row[1] ^ flip) * black / 255;
+        const int blue = (row[2] ^ flip) * black / 255;
+        row[0] = static_cast<std::uint8_t>(blue);
+        row[1] = static_cast<std::uint8_t>(green);
+        row[2] = static_cast<std::uint8_t>(red);
+    }
+}
+
+// Reads the header and starts decoding at the scale for `target`.
+bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target)
+{
+    if (!input.Guarded([](jpeg_decompress_struct& info) { jpeg_read_header(&info, TRUE); }))
+        return false;
+    const bool hasData = input.HasMore(3);
+    jpeg_decompress_struct& info = input.info;
+    if (!hasData || info.image_width != static_cast<unsigned>(stored.width) ||
+        info.image_height != static_cast<unsigned>(stored.height))
+        return false;
+    const int divisor = SmallestScale(stored, target);
+    info.scale_num = 1;
+    info.scale_denom = static_cast<unsigned>(divisor);
+    info.out_color_space = IsCmyk(info) ? JCS_CMYK : JCS_EXT_BGRX;
+    // Smooth chroma shows at full size only.
+    info.do_fancy_upsampling = target == stored ? TRUE : FALSE;
+    return input.Guarded([](jpeg_decompress_struct& started) { jpeg_start_decompress(&started); });
+}
+
+void ReadRows(CJpegInput& input, std::vector<std::uint8_t>& row, CAreaScaler& scaler)
+{
+    std::uint8_t* const rowStart = row.data();
+    input.Guarded([&input, &scaler, rowStart](jpeg_decompress_struct& info) {
+        const bool isCmyk = IsCmyk(info);
+        const bool arrivesInStrips = jpeg_has_multiple_scans(&info) == FALSE;
+        const unsigned stripHeight = static_cast<unsigned>(info.max_v_samp_factor * info.min_DCT_scaled_size);
+        while (info.output_scanline < info.output_height) {
+            JSAMPROW rows[1] = {rowStart};
+            if (jpeg_read_scanlines(&info, rows, 1) != 1)
+                return;
+            if (isCmyk)
+                ConvertCmykRow(rowStart, info.output_width, info.saw_Adobe_marker != FALSE);
+            scaler.AddRow(rowStart);
+            if (arrivesInStrips && input.EndedEarly() && info.output_scanline % stripHeight == 0)
+                return;
+        }
+    });
+}
+
+}  // namespace
+
+std::optional<std::vector<std::uint8_t>> DecodeJpeg(const CInputFile& file, platform::Extent stored,
+                                                    platform::Extent target)
+{
+    CJpegInput input(file);
+    if (!Start(input, stored, target))
+        return std::nullopt;
+    const platform::Extent scaled = {static_cast<int>(input.info.output_width),
+                                     static_cast<int>(input.info.output_height)};
+    CAreaScaler scaler(scaled, target, 4);
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(scaled.width) * 4);
+    ReadRows(input, row, scaler);
+    if (scaler.RowsTaken() == 0)
+        return std::nullopt;
+    std::fill(row.begin(), row.end(), kGrey);
+    while (scaler.RowsTaken() < scaled.height)
+        scaler.AddRow(row.data());
+    return scaler.Pixels();
+}
+
+}  // namespace suite

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "suite/image/jpeg_input.h"
+
+#include <jerror.h>
+#include <span>
+
+namespace suite
+{
+namespace
+{
+
+constexpr long kMostMemory = 512L << 20;
+// Honest progressive files have about ten scans; each costs a walk over all coefficients.
+constexpr int kMostScans = 200;
+constexpr std::array<std::uint8_t, 2> kEndOfImage = {0xFF, 0xD9};
+
+bool IsRestartMarker(int marker)
+{
+    return marker >= 0xD0 && marker <= 0xD7;
+}
+
+}  // namespace
+
+CJpegInput::CJpegInput(const CInputFile& read) : file(read)
+{
+    info.err = jpeg_std_error(&errors);
+    info.client_data = this;
+    errors.error_exit = OnError;
+    errors.emit_message = OnMessage;
+    if (setjmp(onError) != 0)
+        return;
+    jpeg_create_decompress(&info);
+    info.mem->max_memory_to_use = kMostMemory;
+    source.init_source = [](j_decompress_ptr) {};
+    source.fill_input_buffer = Fill;
+    source.skip_input_data = Skip;
+    source.resync_to_restart = jpeg_resync_to_restart;
+    source.term_source = [](j_decompress_ptr) {};
+    info.src = &source;
+    progress.progress_monitor = OnProgress;
+    info.progress = &progress;
+    isCreated = true;
+}
+
+CJpegInput::~CJpegInput()
+{
+    jpeg_destroy_decompress(&info);
+}
+
+bool CJpegInput::HasMore(std::size_t length) const
+{
+    std::array<std::uint8_t, 16> rest;
+    const std::size_t asked = length < rest.size() ? length : rest.size();
+    return source.bytes_in_buffer >= asked ||
+           source.bytes_in_buffer + file.ReadAt(offset, std::span(rest).first(asked)) >= asked;
+}
+
+void CJpegInput::OnError(j_common_ptr common)
+{
+    std::longjmp(Of(common).onError, 1);
+}
+
+void CJpegInput::OnMessage(j_common_ptr common, int level)
+{
+    if (level >= 0)
+        return;
+    ++common->err->num_warnings;
+    // After a lost stretch a restart marker lets the decoder go on; any other marker ends the scan.
+    if (common->err->msg_code == JWRN_HIT_MARKER && !IsRestartMarker(Of(common).info.unread_marker))
+        Of(common).endedEarly = true;
+}
+
+void CJpegInput::OnProgress(j_common_ptr common)
+{
+    if (Of(common).info.input_scan_number > kMostScans)
+        OnError(common);
+}
+
+boolean CJpegInput::Fill(j_decompress_ptr decoder)
+{
+    CJpegInput& input = *static_cast<CJpegInput*>(decoder->client_data);
+    const std::size_t got = input.file.ReadAt(input.offset, input.buffer);
+    input.offset += got;
+    input.source.next_input_byte = got > 0 ? input.buffer.data() : kEndOfImage.data();
+    input.source.bytes_in_buffer = got > 0 ? got : kEndOfImage.size();
+    return TRUE;
+}
+
+void CJpegInput::Skip(j_decompress_ptr decoder, long length)
+{
+    CJpegInput& input = *static_cast<CJpegInput*>(decoder->client_data);
+    if (length <= 0)
+        return;
+    const std::size_t skipped = static_cast<std::size_t>(length);
+    if (skipped < input.source.bytes_in_buffer) {
+        input.source.next_input_byte += skipped;
+        input.source.bytes_in_buffer -= skipped;
+    } else {
+        input.offset += skipped - input.source.bytes_in_buffer;
+        input.source.bytes_in_buffer = 0;
+    }
+}
+
+}  // namespace suite
