@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands of the main frame: what each menu holds, in order.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace app
+{
+
+enum class CommandId {
+    print,
+    eMail,
+    properties,
+    exit,
+    copy,
+    cut,
+    paste,
+    remove,
+    selectAll,
+    selectNone,
+    invertSelection,
+    search,
+    thumbnails,
+    details,
+    sizeLarge,
+    sizeMedium,
+    sizeSmall,
+    filterPhoto,
+    filterVideo,
+    filterMedia,
+    filterAllFiles,
+    includeFolder,
+    sortByName,
+    sortBySize,
+    sortByType,
+    sortByModified,
+    refresh,
+    imageSize,
+    photoTrim,
+    whiteboardCleanUp,
+    slideShow,
+    screenSaver,
+    changeTimeStamp,
+    options,
+    help,
+    about,
+};
+
+enum class MenuId { file, edit, view, thumbnailSize, filter, sort, tools, help };
+
+struct Menu {
+    MenuId id;
+    std::string_view text;
+    MenuId parent;  // itself for a menu of the menu bar
+};
+
+// What is ticked when a command holds.
+enum class Mark {
+    none,
+    toggle,  // on or off by itself
+    choice,  // one of the commands of its menu
+    view,    // one of the two views
+};
+
+struct Command {
+    CommandId id;
+    MenuId menu;
+    std::string_view text;
+    std::string_view shortcut;  // "Ctrl+P"; empty for none
+    Mark mark = Mark::none;
+    bool startsGroup = false;       // a line stands before it
+    std::string_view missing = "";  // why it cannot be used yet, for the user; empty when it works
+};
+
+// A sub-menu stands where the first of its commands does.
+std::span<const Menu> Menus();
+std::span<const Command> Commands();
+const Command& FindCommand(CommandId id);
+
+}  // namespace app

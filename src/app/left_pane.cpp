@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/left_pane.h"
+
+#include "browser/file_names.h"
+#include "platform/file_system.h"
+#include "platform/services.h"
+#include "platform/shell.h"
+
+namespace app
+{
+
+Tab* CTabs::Find(int id)
+{
+    for (Tab& tab : tabs) {
+        if (tab.id == id)
+            return &tab;
+    }
+    return nullptr;
+}
+
+void CTabs::Select(int id)
+{
+    if (!Find(id))
+        return;
+    for (Tab& tab : tabs)
+        tab.checked = tab.id == id;
+    mode = id == kDeviceTab ? TabMode::device : id == kFolderTab ? TabMode::folder : TabMode::search;
+}
+
+void CTabs::Enable(int id, bool on)
+{
+    if (Tab* tab = Find(id))
+        tab->enabled = on;
+}
+
+void CTabs::EnableAll(bool on)
+{
+    for (Tab& tab : tabs)
+        tab.enabled = on;
+}
+
+void CTabs::Show(int id, bool on)
+{
+    if (Tab* tab = Find(id))
+        tab->visible = on;
+}
+
+void CLeftPane::ShowTree(PanelMode tree)
+{
+    mode = tree;
+    tabs.Select(tree == PanelMode::folder ? kFolderTab : kDeviceTab);
+}
+
+std::string CLeftPane::OpenSearch(const std::string& deviceTree, const std::string& folderTree)
+{
+    if (mode != PanelMode::search)
+        previousMode = mode;
+    mode = PanelMode::search;
+    tabs.Select(kSearchTab);
+    return previousMode == PanelMode::folder ? folderTree : deviceTree;
+}
+
+namespace
+{
+
+std::string WithoutSeparator(std::string path)
+{
+    if (path.size() > 1 && path.ends_with('/'))
+        path.pop_back();
+    return path;
+}
+
+Place FavouriteFolder(CDataFolders& dataFolders, DataFolderKind kind, PlaceKind placeKind)
+{
+    const std::string path = WithoutSeparator(dataFolders.FolderPath(kind));
+    Place place{placeKind, std::string(browser::FileName(path)), path, false, {}};
+    if (dataFolders.ListAlbums(path)) {
+        for (const std::string& album : dataFolders.AlbumNames())
+            place.children.push_back({PlaceKind::folder, album, browser::JoinPath(path, album), true, {}});
+    }
+    const std::string sample = browser::JoinPath(path, "Sample");
+    if (kind != DataFolderKind::animation && platform::Os().files->FindFirstFile(sample))
+        place.children.push_back({PlaceKind::folder, "Sample", sample, true, {}});
+    return place;
+}
+
+}  // namespace
+
+std::vector<Place> DevicePlaces(CDataFolders& dataFolders)
+{
+    std::vector<Place> places;
+    const std::string root = WithoutSeparator(dataFolders.FavouriteRoot());
+    if (!root.empty() && root != "/") {
+        Place favourites{PlaceKind::favourites, std::string(browser::FileName(root)), root, false, {}};
+        for (const auto& [kind, placeKind] : {std::pair{DataFolderKind::photo, PlaceKind::photo},
+                                              {DataFolderKind::ring, PlaceKind::ring},
+                                              {DataFolderKind::frame, PlaceKind::frame},
+                                              {DataFolderKind::animation, PlaceKind::animation}})
+            favourites.children.push_back(FavouriteFolder(dataFolders, kind, placeKind));
+        places.push_back(std::move(favourites));
+    }
+    Place devices{PlaceKind::heading, "Devices", "", false, {}};
+    for (const platform::Volume& volume : platform::Os().shell->Volumes()) {
+        if (volume.removable)
+            devices.children.push_back(
+                {PlaceKind::removableVolume, volume.label, volume.mountPoint, true, {}});
+    }
+    places.push_back(std::move(devices));
+    return places;
+}
+
+std::vector<Place> FolderPlaces()
+{
+    std::vector<Place> places;
+    platform::CShell& shell = *platform::Os().shell;
+    if (const auto home = shell.GetFolderPath(platform::KnownFolder::home, false))
+        places.push_back({PlaceKind::home, "Home", *home, true, {}});
+    places.push_back({PlaceKind::fileSystem, "File System", "/", true, {}});
+    for (const platform::Volume& volume : shell.Volumes()) {
+        if (volume.mountPoint != "/")
+            places.push_back({volume.removable ? PlaceKind::removableVolume : PlaceKind::volume,
+                              volume.label,
+                              volume.mountPoint,
+                              true,
+                              {}});
+    }
+    return places;
+}
+
+}  // namespace app

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CTabs, CLeftPane and the places: what the left pane shows, without its window.
+#pragma once
+
+#include "app/data_folders.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace app
+{
+
+enum class TabMode { device = 0, folder = 1, search = 2 };
+
+// The commands that the tabs send; the numbers by which CTabs knows its buttons.
+inline constexpr int kDeviceTab = 1;
+inline constexpr int kFolderTab = 2;
+inline constexpr int kSearchTab = 3;
+
+struct Tab {
+    int id = 0;
+    std::string_view caption;
+    std::string_view image;  // file name in the skin's "Manager" folder
+    bool checked = false;
+    bool enabled = true;
+    bool visible = true;
+};
+
+// The tab bar. Every call about a number that no tab has does nothing.
+class CTabs
+{
+public:
+    void Select(int id);
+    void Enable(int id, bool on);
+    void EnableAll(bool on);
+    void Show(int id, bool on);
+
+    TabMode Mode() const { return mode; }
+    const std::array<Tab, 3>& All() const { return tabs; }
+
+private:
+    Tab* Find(int id);
+
+    std::array<Tab, 3> tabs = {Tab{kDeviceTab, "Device", "favorite.png", true},
+                               Tab{kFolderTab, "Folder", "folder.png"},
+                               Tab{kSearchTab, "Search", "search.png"}};
+    TabMode mode = TabMode::device;
+};
+
+enum class PanelMode { device = 2, folder = 3, search = 4 };
+
+// Which panel is shown, and which one the search was opened from.
+class CLeftPane
+{
+public:
+    CTabs tabs;
+
+    void ShowTree(PanelMode tree);
+    // Shows the search panel. Its starting folder is the one selected in the tree that was shown:
+    // `folderTree` when that is the folder tree, else `deviceTree`.
+    std::string OpenSearch(const std::string& deviceTree, const std::string& folderTree);
+    PanelMode Mode() const { return mode; }
+    PanelMode PreviousMode() const { return previousMode; }
+
+private:
+    PanelMode mode = PanelMode::device;
+    PanelMode previousMode = PanelMode::device;
+};
+
+enum class PlaceKind {
+    heading,
+    favourites,
+    photo,
+    ring,
+    frame,
+    animation,
+    folder,
+    home,
+    fileSystem,
+    volume,
+    removableVolume,
+};
+
+// A line of a tree. A place with `subfolders` set has those of its folder below it, read when it is opened.
+struct Place {
+    PlaceKind kind = PlaceKind::folder;
+    std::string label;
+    std::string path;  // without a trailing separator; empty for a heading
+    bool subfolders = false;
+    std::vector<Place> children;
+};
+
+// The favourite folders, each with its albums, then the removable volumes below a heading of their own.
+std::vector<Place> DevicePlaces(CDataFolders& dataFolders);
+// The home folder, the file system and the other mounted volumes.
+std::vector<Place> FolderPlaces();
+
+}  // namespace app
