@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Opening, finding, changing records and closing; the members' data are in package_archive_data.cpp.
+#include "archive/package_archive.h"
+
+#include "archive/compaction.h"
+#include "archive/index_cache.h"
+#include "archive/zlib_stream.h"
+#include "platform/services.h"
+
+#include <array>
+#include <mutex>
+#include <new>
+
+namespace archive
+{
+namespace
+{
+
+// Each time round, another process has replaced the archive since it was opened here.
+constexpr int kMostReopenings = 1000;
+constexpr const char* kCompactionFile = "/~zip~temp~file~.vy";
+
+platform::CFileSystem& Files()
+{
+    return *platform::Os().files;
+}
+
+}  // namespace
+
+CPackageArchive::CPackageArchive() = default;
+
+CPackageArchive::~CPackageArchive()
+{
+    if (IsOpen())
+        Close(false);
+}
+
+void CPackageArchive::Progress(int) {}
+
+void CPackageArchive::Result(const std::string&) {}
+
+bool CPackageArchive::Fail(const std::string& reason)
+{
+    error = reason;
+    return false;
+}
+
+bool CPackageArchive::FailAs(const std::string& what)
+{
+    return Fail(what + ": " + Files().LastError());
+}
+
+bool CPackageArchive::Open(const std::string& path, Mode wanted)
+{
+    if (IsOpen())
+        Close(false);
+    aborted = false;
+    if (path.empty())
+        return Fail("no file was named");
+    Opening opening = Opening::again;
+    for (int i = 0; opening == Opening::again && i < kMostReopenings; ++i)
+        opening = OpenLocked(path, wanted);
+    if (opening == Opening::again)
+        return Fail("the archive is replaced again and again");
+    if (opening == Opening::failed)
+        return false;
+    archivePath = path;
+    mode = wanted;
+    if (mode != Mode::create ? ReadIndex() : PrepareHeader())
+        return true;
+    Forget();
+    return false;
+}
+
+CPackageArchive::Opening CPackageArchive::OpenLocked(const std::string& path, Mode wanted)
+{
+    const bool reads = wanted == Mode::read;
+    file = Files().Open(path, reads ? platform::OpenMode::read : platform::OpenMode::readWrite);
+    if (!file && wanted == Mode::create) {
+        file = Files().Open(path, platform::OpenMode::createNew);
+        if (!file && Files().FindPresence(path) == platform::Presence::present &&
+            Files().Open(path, platform::OpenMode::readWrite))
+            return Opening::again;
+    }
+    if (!file) {
+        FailAs("the archive cannot be opened");
+        return Opening::failed;
+    }
+    if (!file->Lock(reads ? platform::LockKind::shared : platform::LockKind::exclusive, patience)) {
+        Forget();
+        Fail("the archive is in use by another program");
+        return Opening::failed;
+    }
+    if (file->IsStill(path))
+        return Opening::done;
+    Forget();
+    return Opening::again;
+}
+
+bool CPackageArchive::ReadIndex()
+{
+    const auto found = file->Stamp();
+    if (!found)
+        return FailAs("the archive cannot be read");
+    stamp = *found;
+    index = TakeIndex(archivePath, stamp);
+    try {
+        if (!index)
+            index = CPackageIndex::Read(*file, stamp.size);
+    } catch (const std::bad_alloc&) {
+        return Fail("the archive has more members than memory can hold");
+    }
+    indexFits = index != nullptr;
+    return indexFits || FailAs("the archive cannot be read");
+}
+
+// Writes the header over whatever the file holds, which empties an archive in one step.
+bool CPackageArchive::PrepareHeader()
+{
+    if (index && index->Header() == HeaderState::whole)
+        return true;
+    const std::string header = EncodeHeader(0);
+    if (!file->WriteAt(0, std::as_bytes(std::span(header))) || !file->Truncate(header.size()))
+        return FailAs("the archive cannot be written");
+    index = std::make_unique<CPackageIndex>();
+    indexFits = true;
+    Changed();
+    return true;
+}
+
+void CPackageArchive::Changed()
+{
+    changed = true;
+    // Without the mark, the index could not be told from one of an earlier state.
+    indexFits = file->MarkChanged() && indexFits;
+}
+
+bool CPackageArchive::WriteCount(std::uint32_t count)
+{
+    if (index->CountInFile() == count)
+        return true;
+    std::array<std::byte, 4> bytes;
+    StoreNumber(bytes.data(), count, bytes.size());
+    if (!file->WriteAt(kCountOffset, bytes))
+        return false;
+    index->CountWritten(count);
+    return true;
+}
+
+bool CPackageArchive::Close(bool compact)
+{
+    if (!IsOpen())
+        return Fail("no archive is open");
+    bool done = true;
+    if (compact && mode == Mode::read)
+        done = Fail("the archive is open for reading only");
+    else if (compact)
+        done = Compact();
+    if (IsOpen() && indexFits && newTexts.empty()) {
+        const auto present = changed ? file->Stamp() : stamp;
+        if (present)
+            KeepIndex(archivePath, *present, std::move(index));
+    }
+    Forget();
+    return done;
+}
+
+// Closes and leaves nothing behind.
+void CPackageArchive::Forget()
+{
+    file.reset();
+    index.reset();
+    archivePath.clear();
+    newTexts.clear();
+    deflater.reset();
+    indexFits = false;
+    changed = false;
+}
+
+std::optional<std::size_t> CPackageArchive::Find(const std::string& name) const
+{
+    return index ? index->Find(name, NameMatch::anyCase) : std::nullopt;
+}
+
+std::optional<std::size_t> CPackageArchive::FindExact(const std::string& name) const
+{
+    return index ? index->Find(name, NameMatch::exact) : std::nullopt;
+}
+
+bool CPackageArchive::MayChange()
+{
+    if (!IsOpen())
+        return Fail("no archive is open");
+    if (mode == Mode::read)
+        return Fail("the archive is open for reading only");
+    if (index->Header() == HeaderState::foreign)
+        return Fail("the file is not a package archive");
+    return true;
+}
+
+bool CPackageArchive::Remove(std::size_t position)
+{
+    if (!MayChange())
+        return false;
+    if (mode != Mode::readWrite)
+        return Fail("the archive was opened for making it anew");
+    if (position >= Count())
+        return Fail("there is no such member");
+    if (Member(position).deleted)
+        return true;
+    std::array<std::byte, 2> mark;
+    StoreNumber(mark.data(), 1, mark.size());
+    if (!file->WriteAt(Member(position).recordPosition + kDeletedMarkOffset, mark))
+        return FailAs("the member cannot be marked as deleted");
+    index->MarkDeleted(position);
+    // A count beyond the last whole member is put right as well.
+    const bool counted = WriteCount(static_cast<std::uint32_t>(Count()));
+    Changed();
+    return counted || FailAs("the archive cannot be written");
+}
+
+bool CPackageArchive::SetTexts(std::size_t position, const std::optional<std::string>& caption,
+                               const std::optional<std::string>& timeStampText,
+                               const std::optional<std::string>& secondText)
+{
+    if (position >= Count() || Member(position).deleted)
+        return Fail("there is no such member");
+    PackageMember& member = index->Editable(position);
+    const std::pair<std::string*, const std::optional<std::string>&> texts[] = {
+        {&member.caption, caption}, {&member.timeStampText, timeStampText}, {&member.secondText, secondText}};
+    for (const auto& [held, given] : texts)
+        if (given && given->size() > kLongestText)
+            return Fail("the text is longer than 65535 bytes");
+    for (const auto& [held, given] : texts) {
+        const std::string text = given.value_or(std::string());
+        if (*held == text)
+            continue;
+        *held = text;
+        newTexts.insert(position);
+    }
+    return true;
+}
+
+// Whether compaction would give another file than the one there is.
+bool CPackageArchive::NeedsCompaction() const
+{
+    const auto present = file->Stamp();
+    return index->HoldsDeleted() || !newTexts.empty() || !present || present->size != index->End() ||
+           index->CountInFile() != index->Count();
+}
+
+bool CPackageArchive::Compact()
+{
+    if (!MayChange() || !PrepareHeader())
+        return false;
+    if (!NeedsCompaction())
+        return true;
+    // One temporary file serves the whole process.
+    static std::mutex oneAtATime;
+    const std::lock_guard hold(oneAtATime);
+    const std::string folder = Files().GetTempPath();
+    const std::string temporary = folder + kCompactionFile;
+    auto target = folder.empty() ? nullptr : Files().Open(temporary, platform::OpenMode::create);
+    if (!target)
+        return FailAs("the temporary file cannot be made");
+    auto compacted = WriteCompacted(*file, *index, newTexts, *target);
+    const auto written = target->Stamp();
+    bool done = compacted && written;
+    if (!done)
+        FailAs("the temporary file cannot be written");
+    target.reset();
+    if (done && !file->IsStill(archivePath))
+        done = Fail("the archive was replaced or deleted by another program");
+    // The lock is held until the new file is in its place: whoever waits for it then finds that the name
+    // stands for another file, and opens that one.
+    if (done && !Files().CopyFile(temporary, archivePath))
+        done = FailAs("the archive cannot be replaced");
+    Files().DeleteFile(temporary);
+    if (done)
+        KeepCompacted(*written, std::move(compacted));
+    return done;
+}
+
+// The copy carries the size and the modification time of what was written, unless another process has
+// changed it already.
+void CPackageArchive::KeepCompacted(const platform::FileStamp& written,
+                                    std::unique_ptr<CPackageIndex> compacted)
+{
+    const auto replaced = Files().Open(archivePath, platform::OpenMode::read);
+    const auto present = replaced ? replaced->Stamp() : std::nullopt;
+    if (present && present->size == written.size &&
+        present->modifiedNanoseconds == written.modifiedNanoseconds)
+        KeepIndex(archivePath, *present, std::move(compacted));
+    file.reset();
+}
+
+}  // namespace archive

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CPackageArchive: named members in one file, each one zlib stream, with times and three short texts.
+//
+// Members are never rewritten in place but for their deletion mark; texts and removals reach the file for
+// good by compaction, which replaces it in one step. Byte layout: docs/formats/package.md.
+//
+// While it is open, the file is locked: shared when open for reading, else exclusive. A kill at any instant
+// and a full disk leave the state before an operation or the one after it. Opening, finding and adding cost
+// the same however many members there are, as long as this process saw the archive's latest state before.
+//
+// One object, one thread, but for Abort. Nothing throws; every operation says whether it succeeded, and
+// Error tells why not. Indexes of members hold until Close.
+#pragma once
+
+#include "archive/package_index.h"
+#include "archive/package_record.h"
+#include "platform/file_system.h"
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace archive
+{
+
+class CDeflater;
+
+// What a member records of its source besides the name.
+struct SourceFacts {
+    platform::FileTime creationTime = 0;
+    platform::FileTime lastWriteTime = 0;
+    std::uint64_t size = 0;
+};
+
+struct AddOptions {
+    std::optional<SourceFacts> facts;  // none: those of the source's directory entry
+    platform::FileTime thirdTime = 0;
+    std::string timeStampText;
+    bool keepFullName = false;  // the member is named with the whole path instead of its last part
+};
+
+class CPackageArchive
+{
+public:
+    enum class Mode { create = 1, read = 2, readWrite = 3 };
+
+    CPackageArchive();
+    // Closes without compacting.
+    virtual ~CPackageArchive();
+    CPackageArchive(const CPackageArchive&) = delete;
+    CPackageArchive& operator=(const CPackageArchive&) = delete;
+
+    // Closes what was open before. A file that is no archive opens without members, but cannot be changed.
+    // Mode create empties a file that is there.
+    bool Open(const std::string& path, Mode mode);
+    // False when compaction failed; the file is then as it was before, and closed all the same.
+    bool Close(bool compact);
+    bool IsOpen() const { return file != nullptr; }
+
+    // Fails in mode read, leaving the archive without the member.
+    bool AddFile(const std::string& source, const AddOptions& options);
+
+    // The first member of that name that is not deleted; letters A to Z match in either case.
+    std::optional<std::size_t> Find(const std::string& name) const;
+    // The same, byte for byte.
+    std::optional<std::size_t> FindExact(const std::string& name) const;
+    // Deleted members included.
+    std::size_t Count() const { return index ? index->Count() : 0; }
+    // The reference holds until Close.
+    const PackageMember& Member(std::size_t position) const { return index->Member(position); }
+
+    // Writes the member's data to a file of its name, replacing one that is there (and never what a link of
+    // that name points to) once all of it is written. Fails for a name that would lead out of the folder.
+    bool ExtractToFolder(std::size_t position, const std::string& folder);
+    // `data` is empty after a failure.
+    bool ExtractToMemory(std::size_t position, std::string& data);
+
+    // Needs mode readWrite. A member that is deleted already counts as success.
+    bool Remove(std::size_t position);
+    // In memory; reaches the file by Close with compaction. A missing text is cleared.
+    bool SetTexts(std::size_t position, const std::optional<std::string>& caption,
+                  const std::optional<std::string>& timeStampText,
+                  const std::optional<std::string>& secondText);
+
+    // Stops the compression or decompression under way, and all later ones until the next Open. May be
+    // called from any thread.
+    void Abort() { aborted = true; }
+    // How long Open waits for another holder of the archive; 10 s unless told.
+    void SetPatience(int milliseconds) { patience = milliseconds; }
+    // Why the latest failed operation failed, in plain words.
+    const std::string& Error() const { return error; }
+
+protected:
+    // How much of the file being read is done, 0 to 100.
+    virtual void Progress(int percent);
+    // "Success", "User Abort" or "Zlib Error" at the end of each compression and decompression.
+    virtual void Result(const std::string& text);
+
+private:
+    enum class Opening { done, failed, again };
+    Opening OpenLocked(const std::string& path, Mode wanted);
+    bool ReadIndex();
+    bool Fail(const std::string& reason);
+    bool FailAs(const std::string& what);
+    bool MayChange();
+    bool MayExtract(std::size_t position);
+    bool PrepareHeader();
+    bool WriteCount(std::uint32_t count);
+    void Changed();
+    std::unique_ptr<platform::CFile> OpenSource(const std::string& source, const AddOptions& options,
+                                                PackageMember& member);
+    bool WriteMember(platform::CFile& source, PackageMember& member);
+    bool NeedsCompaction() const;
+    bool Compact();
+    void KeepCompacted(const platform::FileStamp& written, std::unique_ptr<CPackageIndex> compacted);
+    void Forget();
+
+    std::unique_ptr<platform::CFile> file;
+    std::string archivePath;
+    Mode mode = Mode::read;
+    std::unique_ptr<CPackageIndex> index;
+    platform::FileStamp stamp;       // of the file in the state that `index` describes
+    bool indexFits = false;          // `index` describes the file as it is
+    bool changed = false;            // the file, since it was opened
+    std::set<std::size_t> newTexts;  // members whose texts in memory differ from the file's
+    std::unique_ptr<CDeflater> deflater;
+    std::atomic<bool> aborted = false;
+    int patience = 10'000;
+    std::string error;
+};
+
+}  // namespace archive
