@@ -16,7 +16,6 @@
 #include "platform/file_system.h"
 #include "platform/image.h"
 
-#include <deque>
 #include <memory>
 #include <optional>
 #include <set>
@@ -124,20 +123,25 @@ public:
     void InvalidateThumbnail(int index) { pendingThumbItems.insert(index); }
     void QueueEntryUpdate(EntryUpdate update) { pendingEntryUpdates.push_back(std::move(update)); }
     void SetUseThumbStore(bool on) { useThumbStore = on; }
-    // Items that need a thumbnail and have not had one; items that failed are not counted.
+    // Items whose thumbnail was neither made nor tried in vain.
     int ThumbnailsLeft() const { return thumbnailsLeft; }
 
 private:
-    struct Source;
+    class CTick;
     void TakeOver(std::vector<MediaItem> filled);
+    void CarryBitmaps(std::vector<MediaItem>& filled) const;
     void ReadChunk();
-    void MergeRuns();
+    bool MergeIsDue() const;
+    void MergeTopRuns();
+    void EndFill();
     bool Wanted(const platform::FolderEntry& entry) const;
-    std::optional<std::string> SourcePath(int index, unsigned& types) const;
-    int VisibleStep(VisibleRange visible);
-    int RestStep(VisibleRange visible, bool& outOfTime);
+    std::optional<std::string> ThumbnailSource(int index) const;
+    void SetFacts(MediaItem& item, const platform::FileFacts& facts);
+    bool FailedAsItIs(int index) const;
+    int VisibleStep(VisibleRange visible, const CTick& tick);
+    int RestStep(const CTick& tick);
     void ApplyEntryUpdates();
-    void Hold(int index, platform::BitmapHandle bitmap);
+    void Finish(int index, const ThumbnailOutcome& outcome);
     void LetGoFarBitmaps(VisibleRange visible);
 
     std::string folder;
@@ -160,12 +164,10 @@ private:
     std::optional<CThumbnailStore> store;
     bool useThumbStore = true;
     int nextThumbItem = 0;
-    int scanFrom = 0;  // where a tick that ran out of time goes on
     int thumbnailsLeft = 0;
     std::set<int> pendingThumbItems;
     std::vector<EntryUpdate> pendingEntryUpdates;
-    std::deque<int> heldBitmaps;
-    std::size_t heldLimit = 128;
+    std::vector<int> heldBitmaps;  // items whose bitmap is in memory
 };
 
 }  // namespace browser

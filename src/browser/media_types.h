@@ -35,8 +35,8 @@ inline constexpr int kFilterMedia = 23;
 // The sum of the type bits of the file's extension; 0 for a file of no known type.
 unsigned TypeBits(std::string_view fileName);
 
-// The pattern list of a filter mode, divided by ";" and with empty patterns in between; nothing (an empty
-// view) for a number that is no mode.
+// The pattern list of a filter mode, divided by ";" and with empty patterns in between; empty for a
+// number that is no mode.
 std::string FilterPatterns(int mode);
 
 // Names held against a pattern list; empty patterns match nothing.

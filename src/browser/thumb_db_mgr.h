@@ -68,8 +68,9 @@ public:
 private:
     std::string ManagerPath() const;
     void TakeInChanges();
+    void ForgetFile();
     bool AppendToFile(const ThumbDbRecord& record);
-    bool ReplaceFile(const std::list<ThumbDbRecord>& list, const std::string& path);
+    bool ReplaceFile(const std::list<ThumbDbRecord>& list);
     std::string NextFreeName();
 
     std::string dbFolder;

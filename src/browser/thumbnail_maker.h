@@ -15,12 +15,14 @@ inline constexpr int kThumbnailSide = 180;
 // The size of a picture fitted into a box: never enlarged, cut toward zero, no side below 1.
 platform::Extent FitInto(platform::Extent picture, int maxWidth, int maxHeight);
 
-// A bitmap of at most maxWidth by maxHeight pixels, or null. `source` gets the picture's own size (0 by 0 for
-// an ".avi" clip).
-platform::BitmapHandle MakeThumbnail(const std::string& path, int maxWidth, int maxHeight,
-                                     platform::Extent& source);
+// What making a thumbnail tells about the picture besides.
+struct PictureFacts {
+    platform::Extent size;  // 0 by 0 for an ".avi" clip
+    std::string dateText;   // the day on which it was taken, "2004/05/17"; empty when the file does not tell
+};
 
-// The day on which a picture was taken, "2004/05/17", or nothing when its file does not tell.
-std::string DateTakenText(const std::string& path);
+// A bitmap of at most maxWidth by maxHeight pixels, or null.
+platform::BitmapHandle MakeThumbnail(const std::string& path, int maxWidth, int maxHeight,
+                                     PictureFacts& facts);
 
 }  // namespace browser

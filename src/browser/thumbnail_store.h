@@ -46,6 +46,8 @@ public:
                                                  const std::string& path);
 
 private:
+    bool OpenForAdding(archive::CPackageArchive& opened, const std::string& archivePath) const;
+
     CThumbDbMgr& manager;
 };
 

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/interface_font.h"
+
+#include "platform/services.h"
+#include "platform/settings_store.h"
+
+namespace browser
+{
+
+InterfaceFont ReadInterfaceFont(const std::string& file)
+{
+    constexpr std::size_t kLongestFaceName = 260;
+    platform::CProfiles& profiles = *platform::Os().profiles;
+    InterfaceFont font;
+    const std::string face = profiles.GetPrivateProfileString("Font", "facename", "", file);
+    if (!face.empty() && face.size() <= kLongestFaceName) {
+        font.faceName = face;
+    }
+    font.size = profiles.GetPrivateProfileInt("Font", "fontsize", font.size, file);
+    font.characterSet = profiles.GetPrivateProfileInt("Font", "characterSet", font.characterSet, file);
+    return font;
+}
+
+}  // namespace browser

@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/thumbnail_store.h"
+
+#include "archive/package_archive.h"
+#include "browser/file_names.h"
+#include "platform/services.h"
+
+#include <span>
+
+namespace browser
+{
+
+namespace
+{
+
+using archive::CPackageArchive;
+using archive::PackageMember;
+
+constexpr std::string_view kEntrySuffix = ".jpg";
+// The longest name that a folder can hold; an entry name of more goes by another name while it is a file.
+constexpr std::size_t kLongestFileName = 255;
+
+platform::CFileSystem& Files()
+{
+    return *platform::Os().files;
+}
+
+// The path of the temporary file that stands for an entry; empty without a temporary folder.
+std::string TemporaryPath(const std::string& entryName)
+{
+    const std::string folder = Files().GetTempPath();
+    if (folder.empty()) {
+        return {};
+    }
+    return JoinPath(folder, entryName.size() > kLongestFileName ? "~long~name~.jpg" : entryName);
+}
+
+bool IsCurrent(const PackageMember& member, const platform::FileFacts& facts)
+{
+    return facts.size == 0 ||
+           (facts.creationTime == member.creationTime && facts.lastWriteTime == member.lastWriteTime &&
+            facts.size == member.originalSize);
+}
+
+platform::BitmapHandle LoadEntry(CPackageArchive& opened, std::size_t index)
+{
+    const std::string& name = opened.Member(index).name;
+    const std::string path = TemporaryPath(name);
+    if (path.empty()) {
+        return nullptr;
+    }
+    bool extracted = false;
+    if (FileName(path) == name) {
+        extracted = opened.ExtractToFolder(index, std::string(FolderOf(path)));
+    } else if (std::string data; opened.ExtractToMemory(index, data)) {
+        extracted = Files().ReplaceFile(path, std::as_bytes(std::span(data)));
+    }
+    platform::BitmapHandle bitmap;
+    if (extracted) {
+        const platform::CImage image(path);
+        bitmap = image.GetThumbnail(image.Width(), image.Height(), 7, 0x21808);
+        Files().DeleteFile(path);
+    }
+    return bitmap;
+}
+
+}  // namespace
+
+std::string CThumbnailStore::EntryName(const std::string& path)
+{
+    return std::string(FileName(path)).append(kEntrySuffix);
+}
+
+std::optional<std::size_t> CThumbnailStore::FindMember(const CPackageArchive& opened, const std::string& path)
+{
+    const std::string entryName = EntryName(path);
+    if (const auto exact = opened.FindExact(entryName)) {
+        return exact;
+    }
+    const auto similar = opened.Find(entryName);
+    if (!similar) {
+        return std::nullopt;
+    }
+    std::string owner = opened.Member(*similar).name;
+    owner.resize(owner.size() - kEntrySuffix.size());
+    const bool hasItsOwnFile = Files().FindFirstFile(JoinPath(FolderOf(path), owner)).has_value();
+    return hasItsOwnFile ? std::nullopt : similar;
+}
+
+std::optional<StoredThumbnail> CThumbnailStore::Fetch(const std::string& path,
+                                                      const platform::FileFacts& facts)
+{
+    std::string archivePath;
+    CPackageArchive opened;
+    if (!manager.AddFolder(std::string(FolderOf(path))) ||
+        manager.GetDbPathForFile(path, &archivePath) == 0 ||
+        !opened.Open(archivePath, CPackageArchive::Mode::readWrite)) {
+        return std::nullopt;
+    }
+    std::optional<StoredThumbnail> stored;
+    if (const auto index = FindMember(opened, path)) {
+        const PackageMember& member = opened.Member(*index);
+        if (!IsCurrent(member, facts)) {
+            opened.Remove(*index);
+        } else if (platform::BitmapHandle bitmap = LoadEntry(opened, *index)) {
+            stored = StoredThumbnail{std::move(bitmap), member.thirdTime, member.timeStampText};
+        } else {
+            opened.Remove(*index);
+        }
+    }
+    opened.Close(false);
+    return stored;
+}
+
+bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitmap,
+                           const platform::FileFacts& facts, platform::FileTime thirdTime,
+                           const std::string& dateText)
+{
+    std::string archivePath;
+    const std::string entryName = EntryName(path);
+    const std::string temporary = TemporaryPath(entryName);
+    if (temporary.empty() || !manager.AddFolder(std::string(FolderOf(path))) ||
+        manager.GetDbPathForFile(path, &archivePath) == 0 ||
+        !platform::Os().images->SaveJpeg(bitmap, temporary, platform::kDefaultJpegQuality)) {
+        return false;
+    }
+    archive::AddOptions options;
+    options.facts = archive::SourceFacts{facts.creationTime, facts.lastWriteTime, facts.size};
+    options.thirdTime = thirdTime;
+    options.timeStampText = dateText;
+    options.memberName = entryName;
+    CPackageArchive opened;
+    const bool kept = OpenForAdding(opened, archivePath) && opened.AddFile(temporary, options);
+    opened.Close(false);
+    Files().DeleteFile(temporary);
+    return kept;
+}
+
+// Making the archive and finding it already made must not cross: two processes would empty each other's.
+bool CThumbnailStore::OpenForAdding(CPackageArchive& opened, const std::string& archivePath) const
+{
+    if (Files().FindFirstFile(archivePath)) {
+        return opened.Open(archivePath, CPackageArchive::Mode::readWrite);
+    }
+    const auto lock = manager.LockStore();
+    const auto mode =
+        Files().FindFirstFile(archivePath) ? CPackageArchive::Mode::readWrite : CPackageArchive::Mode::create;
+    return lock && opened.Open(archivePath, mode);
+}
+
+bool CThumbnailStore::SetTexts(const std::string& path, const std::string& entryName,
+                               const std::string& caption, const std::string& timeStampText,
+                               const std::string& secondText)
+{
+    std::string archivePath;
+    CPackageArchive opened;
+    if (manager.GetDbPathForFile(path, &archivePath) == 0 ||
+        !opened.Open(archivePath, CPackageArchive::Mode::readWrite)) {
+        return false;
+    }
+    const auto index = opened.Find(entryName);
+    const bool set = index && opened.SetTexts(*index, caption, timeStampText, secondText);
+    return opened.Close(true) && set;
+}
+
+}  // namespace browser
