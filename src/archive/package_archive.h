@@ -36,10 +36,11 @@ struct SourceFacts {
 };
 
 struct AddOptions {
-    std::optional<SourceFacts> facts;  // none: those of the source's directory entry
+    std::optional<SourceFacts> facts = {};  // none: those of the source's directory entry
     platform::FileTime thirdTime = 0;
-    std::string timeStampText;
-    bool keepFullName = false;  // the member is named with the whole path instead of its last part
+    std::string timeStampText = {};
+    bool keepFullName = false;    // the member is named with the whole path instead of its last part
+    std::string memberName = {};  // when not empty, the member's name whatever the source's is
 };
 
 class CPackageArchive
@@ -59,6 +60,8 @@ public:
     // False when compaction failed; the file is then as it was before, and closed all the same.
     bool Close(bool compact);
     bool IsOpen() const { return file != nullptr; }
+    // Whether the open file is no archive.
+    bool IsForeign() const { return index && index->Header() == HeaderState::foreign; }
 
     // Fails in mode read, leaving the archive without the member.
     bool AddFile(const std::string& source, const AddOptions& options);

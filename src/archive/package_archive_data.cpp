@@ -64,6 +64,8 @@ std::unique_ptr<platform::CFile> CPackageArchive::OpenSource(const std::string& 
 {
     const std::size_t separator = options.keepFullName ? std::string::npos : source.rfind('/');
     member.name = separator == std::string::npos ? source : source.substr(separator + 1);
+    if (!options.memberName.empty())
+        member.name = options.memberName;
     member.timeStampText = options.timeStampText;
     member.thirdTime = options.thirdTime;
     if (member.name.size() > kLongestText || member.timeStampText.size() > kLongestText) {

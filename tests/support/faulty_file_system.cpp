@@ -18,6 +18,7 @@ public:
     }
     std::size_t ReadAt(std::uint64_t offset, std::span<std::byte> buffer) override
     {
+        ++owner.reads;
         return inner->ReadAt(offset, buffer);
     }
     bool WriteAt(std::uint64_t offset, std::span<const std::byte> bytes) override

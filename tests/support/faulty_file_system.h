@@ -34,6 +34,7 @@ public:
     std::uint64_t room = std::numeric_limits<std::uint64_t>::max();
     std::set<std::string> refused;  // paths that cannot be opened
     std::size_t steps = 0;          // steps seen so far
+    std::size_t reads = 0;          // calls of ReadAt
 
     std::unique_ptr<platform::CFile> Open(const std::string& path, platform::OpenMode mode) override;
     std::optional<platform::FileFacts> FindFirstFile(const std::string& path) override

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stays after a failure at any step, and what one process sees of another's changes.
+#include "archive_fixture.h"
+#include "support/faulty_file_system.h"
+
+#include <filesystem>
+
+using archive::CPackageArchive;
+using support::CFaultyFileSystem;
+using support::Fault;
+using support::ReadBytes;
+using support::WriteBytes;
+
+namespace
+{
+
+class ArchiveState : public CArchiveFixture
+{
+protected:
+    struct Change {
+        const char* title;
+        std::function<bool(CPackageArchive&)> run;
+        std::string after;
+    };
+    const std::string before = "a=helloold b=hello ";
+    const std::string source = folder.Make("c", "hello");
+    const std::string bigSource = folder.Make("d", Noise(200'000));
+    const std::vector<Change> changes = {
+        {"add", [this](CPackageArchive& target) { return target.AddFile(source, {}); }, before + "c=hello "},
+        {"add large", [this](CPackageArchive& target) { return target.AddFile(bigSource, {}); },
+         before + "d=" + Noise(200'000) + ' '},
+        {"remove", [](CPackageArchive& target) { return target.Remove(0); }, "b=hello "},
+        {"compact",
+         [](CPackageArchive& target) {
+             return target.SetTexts(0, "new", std::nullopt, std::nullopt) && target.Close(true);
+         },
+         "a=hellonew b=hello "},
+    };
+
+    void MakeArchive() const
+    {
+        std::filesystem::remove(path);
+        WriteBytes(path, HandMadeHeader(2) + HandMade{.name = "a", .caption = "old"}.Bytes() +
+                             HandMade{.name = "b"}.Bytes());
+    }
+    // Runs the change on a fresh archive; whether it said that it succeeded.
+    bool Run(const Change& change, CFaultyFileSystem& faulty) const
+    {
+        MakeArchive();
+        const support::CServicesGuard failing(faulty);
+        CPackageArchive target;
+        return target.Open(path, Mode::readWrite) && change.run(target);
+    }
+};
+
+}  // namespace
+
+TEST_F(ArchiveState, AFaultAtAnyStepLeavesTheOldStateOrTheNewOne)
+{
+    for (const Change& change : changes) {
+        for (const Fault fault : {Fault::fail, Fault::cutShort, Fault::stop}) {
+            for (std::size_t step = 0;; ++step) {
+                CFaultyFileSystem faulty(files);
+                faulty.faultyStep = step;
+                faulty.fault = fault;
+
+                const bool done = Run(change, faulty);
+
+                const std::string contents = Contents();
+                EXPECT_TRUE(contents == change.after || (!done && contents == before))
+                    << change.title << " at step " << step << ": " << contents.substr(0, 100);
+                if (faulty.steps <= step) {
+                    EXPECT_TRUE(done);
+                    break;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ArchiveState, AFullDiskAtAnyByteLeavesTheOldStateOrTheNewOne)
+{
+    for (const Change& change : changes) {
+        for (std::uint64_t room = 0;; room += room < 300 ? 1 : 4001) {
+            CFaultyFileSystem faulty(files);
+            faulty.room = room;
+
+            const bool done = Run(change, faulty);
+
+            EXPECT_TRUE(Contents() == (done ? change.after : before)) << change.title << " with " << room;
+            if (done)
+                break;
+        }
+    }
+}
+
+TEST_F(ArchiveState, AFailedAddIsForgottenAndTheNextOneStands)
+{
+    MakeArchive();
+    CFaultyFileSystem faulty(files);
+    const support::CServicesGuard failing(faulty);
+    CPackageArchive target;
+    ASSERT_TRUE(target.Open(path, Mode::readWrite));
+    const std::string bytes = ReadBytes(path);
+    faulty.room = 100'000;
+
+    EXPECT_FALSE(target.AddFile(bigSource, {}));
+    EXPECT_EQ(ReadBytes(path), bytes);
+    EXPECT_FALSE(target.Find("d"));
+    faulty.room = 1'000'000;
+    EXPECT_TRUE(target.AddFile(source, {}));
+
+    EXPECT_EQ(Contents(), "cannot be opened");
+    target.Close(false);
+    EXPECT_EQ(Contents(), before + "c=hello ");
+}
+
+TEST_F(ArchiveState, ExtractionThatFailsLeavesNoFile)
+{
+    WriteBytes(path, HandMadeHeader(1) + HandMade().Bytes());
+    for (std::size_t step = 0; step < 3; ++step) {
+        CFaultyFileSystem faulty(files);
+        faulty.faultyStep = step;
+        const support::CServicesGuard failing(faulty);
+        CPackageArchive target;
+        ASSERT_TRUE(target.Open(path, Mode::read));
+
+        EXPECT_FALSE(target.ExtractToFolder(0, files.GetTempPath()));
+
+        EXPECT_TRUE(std::filesystem::is_empty(files.GetTempPath()));
+    }
+}
+
+TEST_F(ArchiveState, OpeningAgainReadsNoRecordsAndSeesEveryChange)
+{
+    CFaultyFileSystem counting(files);
+    const support::CServicesGuard counted(counting);
+    CPackageArchive target;
+    ASSERT_TRUE(target.Open(path, Mode::create));
+    for (int i = 0; i < 50; ++i)
+        ASSERT_TRUE(AddText(target, std::to_string(i), "hello"));
+    target.Close(false);
+    const auto readsOf = [&](const std::string& name) {
+        const std::size_t reads = counting.reads;
+        EXPECT_TRUE(target.Open(path, Mode::readWrite));
+        EXPECT_TRUE(target.Find(name)) << name;
+        return counting.reads - reads;
+    };
+
+    EXPECT_EQ(readsOf("49"), 0U);
+    EXPECT_TRUE(target.Remove(7) && target.Close(true));
+    EXPECT_EQ(readsOf("8"), 0U);
+    EXPECT_EQ(target.Count(), 49U);
+    EXPECT_EQ(target.Find("7"), std::nullopt);
+    EXPECT_TRUE(AddText(target, "more", "hello"));
+    EXPECT_EQ(readsOf("more"), 0U);
+    target.Close(false);
+
+    // Another program deletes a member, which changes two bytes, and a third one replaces the file.
+    {
+        const auto file = files.Open(path, platform::OpenMode::readWrite);
+        ASSERT_TRUE(file->WriteAt(16 + 46, std::as_bytes(std::span("\x01", 1))) && file->MarkChanged());
+    }
+    EXPECT_GT(readsOf("1"), 0U);
+    EXPECT_EQ(target.Find("0"), std::nullopt);
+    target.Close(false);
+    WriteBytes(path, HandMadeHeader(1) + HandMade{.name = "other"}.Bytes());
+    EXPECT_GT(readsOf("other"), 0U);
+    EXPECT_EQ(target.Count(), 1U);
+}
+
+TEST_F(ArchiveState, AnArchiveReplacedWhileItWasAwaitedIsOpenedAnew)
+{
+    // The file system replaces the archive just as it is locked.
+    class CReplacing : public CFaultyFileSystem
+    {
+    public:
+        using CFaultyFileSystem::CFaultyFileSystem;
+        std::function<void()> onOpen;
+        std::unique_ptr<platform::CFile> Open(const std::string& name, platform::OpenMode mode) override
+        {
+            auto file = CFaultyFileSystem::Open(name, mode);
+            if (const auto once = std::exchange(onOpen, nullptr))
+                once();
+            return file;
+        }
+    } replacing(files);
+    const support::CServicesGuard guarded(replacing);
+    for (const Mode mode : {Mode::read, Mode::readWrite, Mode::create}) {
+        MakeArchive();
+        replacing.onOpen = [&] {
+            std::filesystem::remove(path);
+            WriteBytes(path, HandMadeHeader(1) + HandMade{.name = "z"}.Bytes());
+        };
+        CPackageArchive target;
+
+        ASSERT_TRUE(target.Open(path, mode));
+
+        EXPECT_EQ(target.Find("z").has_value(), mode != Mode::create);
+        EXPECT_EQ(target.Find("a"), std::nullopt);
+        EXPECT_TRUE(target.Close(false));
+        EXPECT_EQ(Contents(), mode == Mode::create ? "" : "z=hello ");
+    }
+}
