@@ -5,6 +5,7 @@
 #include "platform_linux/failure.h"
 #include "platform_linux/folder_reader.h"
 #include "platform_linux/paths.h"
+#include "platform_linux/volumes.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -17,14 +18,6 @@ namespace platform_linux
 
 namespace
 {
-
-bool IsMountPoint(const std::string& folder)
-{
-    struct statx facts {
-    };
-    return statx(AT_FDCWD, Native(folder), 0, STATX_TYPE, &facts) == 0 &&
-           (facts.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
-}
 
 bool IsEmptyFolder(const std::string& folder)
 {

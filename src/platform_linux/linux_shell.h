@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CLinuxShell: folders, file operations and programs of a freedesktop.org desktop.
+#pragma once
+
+#include "platform/shell.h"
+
+namespace platform_linux
+{
+
+class CLinuxShell final : public platform::CShell
+{
+public:
+    // There is no folder of the system itself here: `windows` is never to be had.
+    std::optional<std::string> GetFolderPath(platform::KnownFolder folder, bool create) override;
+    bool SHFileOperation(const platform::FileOperationRequest& request) override;
+    bool WinExec(const std::string& command) override;
+    bool ShellExecute(const std::string& path) override;
+    std::vector<platform::Volume> Volumes() override;
+};
+
+}  // namespace platform_linux

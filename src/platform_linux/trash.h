@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The desktop's trash, by the freedesktop.org trash specification 1.0: the trash below $XDG_DATA_HOME for
+// files of its file system, else the one at the top of the file's own volume.
+#pragma once
+
+#include <string>
+
+namespace platform_linux
+{
+
+// Moves a file, link or folder to the trash. False, with the file where it was, when its volume has no trash
+// and none can be made there.
+bool MoveToTrash(const std::string& path);
+
+}  // namespace platform_linux
