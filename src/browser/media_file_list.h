@@ -123,6 +123,8 @@ public:
     void InvalidateThumbnail(int index) { pendingThumbItems.insert(index); }
     void QueueEntryUpdate(EntryUpdate update) { pendingEntryUpdates.push_back(std::move(update)); }
     void SetUseThumbStore(bool on) { useThumbStore = on; }
+    // Frees the memory of every bitmap held; they come back as those of far items do.
+    void LetGoAllBitmaps();
     // Items whose thumbnail was neither made nor tried in vain.
     int ThumbnailsLeft() const { return thumbnailsLeft; }
 

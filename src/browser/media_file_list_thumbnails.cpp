@@ -182,6 +182,14 @@ void CMediaFileList::LetGoFarBitmaps(VisibleRange visible)
     heldBitmaps.erase(kept, heldBitmaps.end());
 }
 
+void CMediaFileList::LetGoAllBitmaps()
+{
+    for (const int index : heldBitmaps) {
+        items[static_cast<std::size_t>(index)].thumbnail.reset();
+    }
+    heldBitmaps.clear();
+}
+
 void CMediaFileList::ApplyEntryUpdates()
 {
     if (!store) {

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CContext: what every command of kelvoctl works with: where its result goes, its exit status, and the data
+// tree, which is prepared when a command first asks for it.
+#pragma once
+
+#include "app/data_folders.h"
+#include "app/kelvo_app.h"
+#include "browser/thumb_db_mgr.h"
+
+#include <nlohmann/json.hpp>
+
+#include <chrono>
+#include <optional>
+#include <string>
+
+namespace cli
+{
+
+using Json = nlohmann::ordered_json;
+
+// A text of any bytes for a JSON document: what is not UTF-8 becomes U+FFFD when it is printed.
+inline Json TextOrNull(const std::string* text)
+{
+    return text ? Json(*text) : Json(nullptr);
+}
+
+class CContext
+{
+public:
+    bool json = false;
+    bool quiet = false;
+
+    // One document on standard output, with --json.
+    void PrintJson(const Json& document) const;
+    // A line on standard output, without --json and unless --quiet.
+    void PrintLine(const std::string& line) const;
+    // Bytes on standard output as they are.
+    static void PrintBytes(const std::string& bytes);
+    // "kelvoctl: PATH: why" on standard error; the exit status becomes 1.
+    void Fail(const std::string& path, const std::string& why);
+    // Prints {"result": ...}, and for false reports the failure.
+    void PrintResult(bool done, const std::string& path, const std::string& why);
+
+    // 130 or 143 after an interruption, else 1 after a failure, else 0.
+    int ExitStatus() const;
+
+    // The data tree of this user, as at the window's start.
+    app::CDataFolders& Folders();
+    app::CKelvoApp& Application();
+    // The thumbnail store's manager, loaded.
+    browser::CThumbDbMgr& Store();
+
+private:
+    void Prepare();
+
+    bool failed = false;
+    bool prepared = false;
+    app::CDataFolders folders;
+    app::CKelvoApp application;
+    std::optional<browser::CThumbDbMgr> store;
+};
+
+// The path as seen from the root: what is relative is taken from the current folder. A trailing separator
+// stays, but for "." and "..".
+std::string AbsolutePath(const std::string& path);
+
+// The signal that asked the program to stop, or 0. Commands look between two items.
+int Interruption();
+void CatchInterruptions();
+
+// A bar on standard error for work that takes longer than a second, when that is a terminal.
+class CProgressBar
+{
+public:
+    CProgressBar(const CContext& context, std::size_t total);
+    ~CProgressBar();
+    CProgressBar(const CProgressBar&) = delete;
+    CProgressBar& operator=(const CProgressBar&) = delete;
+    void Advance();
+
+private:
+    bool enabled = false;
+    std::size_t total = 0;
+    std::size_t done = 0;
+    int shownPercent = -1;
+    std::chrono::steady_clock::time_point start;
+};
+
+}  // namespace cli

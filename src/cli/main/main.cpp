@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/commands.h"
+#include "platform_linux/services.h"
+#include "suite/image/image_library.h"
+#include "suite/utility/utility_library.h"
+
+int main(int argc, char** argv)
+{
+    platform_linux::CLinuxServices services;
+    services.Install();
+    suite::CUtilityLibrary utility(services.ProgramFolder());
+    suite::CSuiteImageLibrary images;
+    platform::Os().utility = &utility;
+    platform::Os().images = &images;
+    return cli::Run(argc, argv, KELVO_VERSION);
+}
