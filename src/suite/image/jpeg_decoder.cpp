@@ -49,6 +49,18 @@ void ConvertCmykRow(std::uint8_t* row, unsigned width, bool storesLight)
     }
 }
 
+// Takes in what there is of a file of several scans, and begins to put out the sum of those that are whole or
+// broke off among their pixels. False when not even one can be used.
+bool ReadScans(CJpegInput& input)
+{
+    input.Guarded([](jpeg_decompress_struct& info) {
+        while (jpeg_consume_input(&info) != JPEG_REACHED_EOI)
+            ;
+    });
+    return input.Guarded(
+        [](jpeg_decompress_struct& info) { jpeg_start_output(&info, info.input_scan_number); });
+}
+
 // Reads the header and starts decoding at the scale for `target`.
 bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target)
 {
@@ -65,7 +77,9 @@ bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target)
     info.out_color_space = IsCmyk(info) ? JCS_CMYK : JCS_EXT_BGRX;
     // Smooth chroma shows at full size only.
     info.do_fancy_upsampling = target == stored ? TRUE : FALSE;
-    return input.Guarded([](jpeg_decompress_struct& started) { jpeg_start_decompress(&started); });
+    info.buffered_image = jpeg_has_multiple_scans(&info);
+    return input.Guarded([](jpeg_decompress_struct& started) { jpeg_start_decompress(&started); }) &&
+           (info.buffered_image == FALSE || ReadScans(input));
 }
 
 void ReadRows(CJpegInput& input, std::vector<std::uint8_t>& row, CAreaScaler& scaler)
@@ -73,7 +87,7 @@ void ReadRows(CJpegInput& input, std::vector<std::uint8_t>& row, CAreaScaler& sc
     std::uint8_t* const rowStart = row.data();
     input.Guarded([&input, &scaler, rowStart](jpeg_decompress_struct& info) {
         const bool isCmyk = IsCmyk(info);
-        const bool arrivesInStrips = jpeg_has_multiple_scans(&info) == FALSE;
+        const bool arrivesInStrips = info.buffered_image == FALSE;
         const unsigned stripHeight = static_cast<unsigned>(info.max_v_samp_factor * info.min_DCT_scaled_size);
         while (info.output_scanline < info.output_height) {
             JSAMPROW rows[1] = {rowStart};

@@ -29,8 +29,7 @@ std::vector<std::string> ModuleFolders()
     const std::string program = ProgramFolder();
     if (!program.empty()) {
         folders.push_back(program);
-        folders.push_back(program + "../" KELVO_LIBRARY_FOLDER "/kelvo/");
-        folders.push_back(program + "../../" KELVO_LIBRARY_FOLDER "/kelvo/");
+        folders.push_back(program + "../lib/kelvo/");
     }
     return folders;
 }

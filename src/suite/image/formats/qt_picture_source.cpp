@@ -142,8 +142,7 @@ platform::BitmapHandle CQtPictureSource::Render(int width, int height)
     if (!IsBitmapSize({width, height}) || !IsBitmapSize(stored) || !Prepare(file, reader))
         return nullptr;
     platform::Extent decoded = stored;
-    if (reader.supportsOption(QImageIOHandler::ScaledSize) && target.width <= stored.width &&
-        target.height <= stored.height) {
+    if (kind == PictureKind::webp && target.width <= stored.width && target.height <= stored.height) {
         reader.setScaledSize(QSize(target.width, target.height));
         decoded = target;
     }

@@ -25,6 +25,7 @@ std::unique_ptr<platform::CImageSource> CVideoFrameSource::Open(const CInputFile
 {
     const std::unique_ptr<video_thumbnailer, Release> thumbnailer(video_thumbnailer_create());
     const std::unique_ptr<image_data, Release> image(video_thumbnailer_create_image_data());
+    video_thumbnailer_set_log_callback(thumbnailer.get(), [](ThumbnailerLogLevel, const char*) {});
     thumbnailer->thumbnail_image_type = Rgb;
     video_thumbnailer_set_size(thumbnailer.get(), 0, 0);
     // Opened through the descriptor: a name could be taken for a protocol's address.
