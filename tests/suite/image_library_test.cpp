@@ -199,22 +199,7 @@ TEST_F(CImageTest, ThumbnailsEqualTheMeanOfTheWholePicture)
 
     for (const auto& [width, height] : {std::pair(180, 135), std::pair(200, 150), std::pair(201, 150),
                                         std::pair(400, 300), std::pair(799, 601), std::pair(1, 1)}) {
-        platform::Bitmap mean{width, height, {}};
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
-                const int left = x * 1600 / width, right = (x + 1) * 1600 / width;
-                const int top = y * 1200 / height, bottom = (y + 1) * 1200 / height;
-                std::uint64_t sums[3] = {};
-                for (int v = top; v < bottom; ++v)
-                    for (int u = left; u < right; ++u)
-                        for (int c = 0; c < 3; ++c)
-                            sums[c] += whole.pixels[static_cast<std::size_t>(v) * 1600 + u] >> 8 * c & 255;
-                std::uint32_t pixel = 0;
-                for (int c = 0; c < 3; ++c)
-                    pixel |= static_cast<std::uint32_t>(sums[c] / ((right - left) * (bottom - top))) << 8 * c;
-                mean.pixels.push_back(pixel);
-            }
-        }
+        const platform::Bitmap mean = Mean(whole, width, height);
 
         const auto thumbnail = Thumbnail(image, width, height);
 

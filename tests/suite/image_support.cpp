@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "suite/image_support.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -21,7 +22,7 @@ platform::Bitmap Landscape(int width, int height, unsigned seed)
             const auto channel = [light](int tint) {
                 return static_cast<std::uint32_t>(std::min(255, std::max(0, light + tint)));
             };
-            bitmap.pixels.push_back(0xFF000000U | channel(20) << 16 | channel(y % 64 - 32) << 8 |
+            bitmap.pixels.push_back(0xFF000000U | channel(20) << 16 | channel(y / 8 % 64 - 32) << 8 |
                                     channel(-20));
         }
     }
@@ -38,6 +39,27 @@ double MeanDifference(const platform::Bitmap* a, const platform::Bitmap* b)
             sum += std::abs(static_cast<int>(a->pixels[i] >> shift & 255) -
                             static_cast<int>(b->pixels[i] >> shift & 255));
     return sum / (3.0 * static_cast<double>(a->pixels.size()));
+}
+
+platform::Bitmap Mean(const platform::Bitmap& whole, int width, int height)
+{
+    platform::Bitmap mean{width, height, {}};
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const int left = x * whole.width / width, right = (x + 1) * whole.width / width;
+            const int top = y * whole.height / height, bottom = (y + 1) * whole.height / height;
+            std::uint64_t sums[3] = {};
+            for (int v = top; v < bottom; ++v)
+                for (int u = left; u < right; ++u)
+                    for (int c = 0; c < 3; ++c)
+                        sums[c] += whole.pixels[static_cast<std::size_t>(v) * whole.width + u] >> 8 * c & 255;
+            std::uint32_t pixel = 0xFF000000U;
+            for (int c = 0; c < 3; ++c)
+                pixel |= static_cast<std::uint32_t>(sums[c] / ((right - left) * (bottom - top))) << 8 * c;
+            mean.pixels.push_back(pixel);
+        }
+    }
+    return mean;
 }
 
 static char Letter(std::uint32_t pixel)

@@ -36,6 +36,9 @@ private:
 // A picture with detail at every scale, the same for the same `seed`.
 platform::Bitmap Landscape(int width, int height, unsigned seed = 1);
 
+// Each pixel the mean of the whole pixels that it covers.
+platform::Bitmap Mean(const platform::Bitmap& whole, int width, int height);
+
 // Mean difference of the colours, 0 to 255; -1 when the sizes differ or one is missing.
 double MeanDifference(const platform::Bitmap* a, const platform::Bitmap* b);
 

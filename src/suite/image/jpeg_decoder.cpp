@@ -3,6 +3,7 @@
 #include "suite/image/jpeg_decoder.h"
 
 #include "suite/image/area_scaler.h"
+#include "suite/image/jpeg_dc_walk.h"
 #include "suite/image/jpeg_input.h"
 
 #include <algorithm>
@@ -61,19 +62,20 @@ bool ReadScans(CJpegInput& input)
         [](jpeg_decompress_struct& info) { jpeg_start_output(&info, info.input_scan_number); });
 }
 
-// Reads the header and starts decoding at the scale for `target`.
+bool ReadHeader(CJpegInput& input, platform::Extent stored)
+{
+    const jpeg_decompress_struct& info = input.info;
+    return input.Guarded([](jpeg_decompress_struct& read) { jpeg_read_header(&read, TRUE); }) &&
+           input.HasMore(3) && info.image_width == static_cast<unsigned>(stored.width) &&
+           info.image_height == static_cast<unsigned>(stored.height);
+}
+
+// Starts decoding at the scale for `target`.
 bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target)
 {
-    if (!input.Guarded([](jpeg_decompress_struct& info) { jpeg_read_header(&info, TRUE); }))
-        return false;
-    const bool hasData = input.HasMore(3);
     jpeg_decompress_struct& info = input.info;
-    if (!hasData || info.image_width != static_cast<unsigned>(stored.width) ||
-        info.image_height != static_cast<unsigned>(stored.height))
-        return false;
-    const int divisor = SmallestScale(stored, target);
     info.scale_num = 1;
-    info.scale_denom = static_cast<unsigned>(divisor);
+    info.scale_denom = static_cast<unsigned>(SmallestScale(stored, target));
     info.out_color_space = IsCmyk(info) ? JCS_CMYK : JCS_EXT_BGRX;
     // Smooth chroma shows at full size only.
     info.do_fancy_upsampling = target == stored ? TRUE : FALSE;
@@ -108,6 +110,12 @@ std::optional<std::vector<std::uint8_t>> DecodeJpeg(const CInputFile& file, plat
                                                     platform::Extent target)
 {
     CJpegInput input(file);
+    if (!ReadHeader(input, stored))
+        return std::nullopt;
+    if (SmallestScale(stored, target) == 8) {
+        if (auto pixels = WalkDcTerms(file, input.Position(), input.info, target))
+            return pixels;
+    }
     if (!Start(input, stored, target))
         return std::nullopt;
     const platform::Extent scaled = {static_cast<int>(input.info.output_width),

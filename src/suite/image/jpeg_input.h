@@ -36,6 +36,8 @@ public:
     }
     // Whether the scan's data stopped before its last block: the file was cut, or a marker stands in it.
     bool EndedEarly() const { return endedEarly; }
+    // Where in the file libjpeg reads next; after the header, the scan's data.
+    std::uint64_t Position() const { return offset - source.bytes_in_buffer; }
     // Whether data of some length follows what was read so far.
     bool HasMore(std::size_t length) const;
 
