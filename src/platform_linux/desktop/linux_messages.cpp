@@ -53,6 +53,10 @@ CLinuxMessages::~CLinuxMessages()
 {
     if (platform::Os().messages == this)
         platform::Os().messages = nullptr;
+    for (const QString& name : busNames)
+        bus.unregisterService(name);
+    if (!busNames.empty())
+        bus.unregisterObject(kWindowPath);
 }
 
 void CLinuxMessages::Install()
@@ -115,12 +119,15 @@ bool CLinuxMessages::RegisterClass(const std::string& windowClass)
         return false;
     if (!bus.isConnected())
         return true;
-    auto* window = new CWindowObject(this, [this] {
-        if (onRaise)
-            onRaise();
-    });
-    bus.registerObject(kWindowPath, window, QDBusConnection::ExportAllSlots);
-    bus.registerService(BusNameOf(windowClass));
+    if (busNames.empty()) {
+        auto* window = new CWindowObject(this, [this] {
+            if (onRaise)
+                onRaise();
+        });
+        bus.registerObject(kWindowPath, window, QDBusConnection::ExportAllSlots);
+    }
+    if (bus.registerService(BusNameOf(windowClass)))
+        busNames.push_back(BusNameOf(windowClass));
     return true;
 }
 

@@ -48,6 +48,7 @@ private:
 
     QDBusConnection bus;
     CWindowClaims claims;
+    std::vector<QString> busNames;  // those that we have
     bool isListening = false;
     std::map<std::uint32_t, std::string> names;
     std::map<std::uint32_t, std::vector<Handler>> handlers;
