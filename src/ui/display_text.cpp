@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/display_text.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+namespace ui
+{
+
+QString Shown(std::string_view bytes)
+{
+    QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    for (QChar& character : text) {
+        // The pictures of the control characters; a raw line feed would break a line of the list.
+        if (character.unicode() < 0x20)
+            character = QChar(0x2400 + character.unicode());
+        else if (character.unicode() == 0x7F)
+            character = QChar(0x2421);
+    }
+    return text;
+}
+
+QString SizeText(std::uint64_t bytes)
+{
+    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeTraditionalFormat);
+}
+
+QString TimeText(platform::FileTime time)
+{
+    if (time == 0)
+        return {};
+    // Milliseconds from 1601-01-01, where file times begin, to 1970-01-01.
+    constexpr std::int64_t kEpoch = 11644473600000;
+    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time / 10000) - kEpoch);
+    return QLocale().toString(moment, QLocale::ShortFormat);
+}
+
+QString CountText(std::size_t count, const QString& one, const QString& many)
+{
+    return QLocale().toString(static_cast<qulonglong>(count)) + QLatin1Char(' ') + (count == 1 ? one : many);
+}
+
+}  // namespace ui

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/folder_tree.h"
+
+#include "ui/theme.h"
+
+#include <QStyledItemDelegate>
+
+namespace ui
+{
+
+namespace
+{
+
+class CPlaceDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        size.setHeight(option.fontMetrics.height() + 3 * kGrid);
+        return size;
+    }
+};
+
+}  // namespace
+
+CFolderTree::CFolderTree(std::vector<app::Place> places, const QString& name, QWidget* parent)
+    : QTreeView(parent), folders(std::move(places))
+{
+    setAccessibleName(name);
+    setFrameShape(NoFrame);
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideMiddle);
+    setEditTriggers(NoEditTriggers);
+    setExpandsOnDoubleClick(true);
+    setItemDelegate(new CPlaceDelegate(this));
+    viewport()->setMouseTracking(true);
+    // The tree stands on the frame's ground, not on the list's.
+    viewport()->setBackgroundRole(QPalette::Window);
+    connect(this, &QTreeView::expanded, &folders, &CFolderTreeModel::Read);
+    setModel(&folders);
+}
+
+std::string CFolderTree::Folder() const
+{
+    return folders.Path(currentIndex());
+}
+
+bool CFolderTree::SelectFolder(const std::string& path)
+{
+    const QModelIndex index = folders.Reveal(path);
+    if (!index.isValid())
+        return false;
+    selecting = true;
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent())
+        expand(above);
+    setCurrentIndex(index);
+    scrollTo(index);
+    selecting = false;
+    return true;
+}
+
+void CFolderTree::ExpandPlaces()
+{
+    for (int row = 0; row < folders.rowCount(); ++row) {
+        const QModelIndex place = folders.index(row, 0);
+        if (folders.rowCount(place) > 0)
+            expand(place);
+    }
+}
+
+void CFolderTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTreeView::currentChanged(current, previous);
+    const std::string path = folders.Path(current);
+    if (!selecting && !path.empty())
+        Q_EMIT FolderChosen(path);
+}
+
+}  // namespace ui

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CFolderTree: a tree of places in which one folder is selected.
+#pragma once
+
+#include "ui/folder_tree_model.h"
+
+#include <QTreeView>
+
+namespace ui
+{
+
+class CFolderTree : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    CFolderTree(std::vector<app::Place> places, const QString& name, QWidget* parent = nullptr);
+
+    // The selected folder; empty for none.
+    std::string Folder() const;
+    // Selects a folder without telling; false when no place leads to it.
+    bool SelectFolder(const std::string& path);
+    // Opens the places that the tree starts with.
+    void ExpandPlaces();
+
+Q_SIGNALS:
+    // The user has selected another folder.
+    void FolderChosen(const std::string& path);
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    CFolderTreeModel folders;
+    bool selecting = false;
+};
+
+}  // namespace ui

@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/ie_shell_list_ctrl.h"
+
+#include "browser/file_names.h"
+#include "platform/services.h"
+#include "platform/shell.h"
+#include "ui/display_text.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QScrollBar>
+
+namespace ui
+{
+
+namespace
+{
+
+// "file://" and the path's bytes, all but the plain ones as "%41".
+QByteArray FileUri(const std::string& path)
+{
+    return "file://" + QByteArray::fromStdString(path).toPercentEncoding("/");
+}
+
+}  // namespace
+
+CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* parent)
+    : QWidget(parent), storeManager(storeFolder), list(&storeManager), nameModel(list, Columns::name),
+      allModel(list, Columns::all), filler(list), thumbnails(new CThumbnailView(list, this)),
+      details(new CDetailsView(this)), pages(new QStackedLayout(this)), emptyState(new CEmptyState(this))
+{
+    storeManager.Load();
+    pages->addWidget(thumbnails);
+    pages->addWidget(details);
+    thumbnails->setModel(&nameModel);
+    details->setModel(&allModel);
+    setFocusProxy(thumbnails);
+    WatchView(thumbnails);
+    WatchView(details);
+    connect(thumbnails, &CThumbnailView::VisibleChanged, this, &CIEShellListCtrl::WorkAppeared);
+    connect(&filler, &CListFiller::PieceBegins, this, &CIEShellListCtrl::KeepState);
+    connect(&filler, &CListFiller::Filled, this, &CIEShellListCtrl::OnFilled);
+    connect(&filler, &CListFiller::FactsRead, this, [this] {
+        allModel.FactsChanged();
+        Q_EMIT StatusChanged();
+    });
+}
+
+CIEShellListCtrl::~CIEShellListCtrl()
+{
+    storeManager.Save(true);
+}
+
+void CIEShellListCtrl::WatchView(QAbstractItemView* view)
+{
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        stateIsKept = false;
+        Q_EMIT StatusChanged();
+    });
+    connect(view->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { stateIsKept = false; });
+    connect(view, &QAbstractItemView::activated, this, &CIEShellListCtrl::Activate);
+}
+
+QAbstractItemView* CIEShellListCtrl::View() const
+{
+    return style == ViewStyle::thumbnails ? static_cast<QAbstractItemView*>(thumbnails) : details;
+}
+
+void CIEShellListCtrl::OpenFolder(const std::string& path, const std::string& selectName)
+{
+    if (path != list.Folder()) {
+        // The list lets go of another folder's items at once.
+        Model().Reset(false);
+        keeper.Forget();
+        stateIsKept = true;
+    }
+    if (!selectName.empty()) {
+        keeper.Want(selectName);
+        stateIsKept = true;
+    }
+    filler.Start(path);
+    if (filler.IsReading())
+        SayWhyEmpty();
+    Q_EMIT StatusChanged();
+}
+
+void CIEShellListCtrl::Refresh()
+{
+    if (!list.Folder().empty())
+        OpenFolder(list.Folder());
+}
+
+void CIEShellListCtrl::KeepState()
+{
+    if (stateIsKept)
+        return;
+    keeper.Capture(*View(), list);
+    stateIsKept = true;
+}
+
+void CIEShellListCtrl::OnFilled()
+{
+    Model().Reset(true);
+    keeper.Restore(*View(), list);
+    SayWhyEmpty();
+    if (!thumbnails->Visible() || style == ViewStyle::details)
+        filler.ReadFacts();
+    Q_EMIT StatusChanged();
+    Q_EMIT WorkAppeared();
+}
+
+void CIEShellListCtrl::SayWhyEmpty()
+{
+    if (list.State() == browser::FillState::failed) {
+        const bool missing = platform::Os().files->FindPresence(list.Folder()) == platform::Presence::missing;
+        emptyState->Show(QStringLiteral("folder"),
+                         missing ? QStringLiteral("This folder is no longer there")
+                                 : QStringLiteral("You may not look into this folder"),
+                         Shown(list.Folder()) + QStringLiteral("\n") + Shown(list.FillError()));
+    } else if (filler.IsReading() && Model().rowCount() == 0) {
+        emptyState->Show(QStringLiteral("folder-open"), QStringLiteral("Reading the folder..."), {});
+    } else if (list.Count() == 0) {
+        const bool everything = list.Filter() == browser::kFilterAllFiles;
+        emptyState->Show(everything ? QStringLiteral("folder-open") : QStringLiteral("photo"),
+                         everything                               ? QStringLiteral("This folder is empty")
+                         : list.Filter() == browser::kFilterVideo ? QStringLiteral("No videos here")
+                                                                  : QStringLiteral("No pictures here"),
+                         everything ? QString()
+                                    : QStringLiteral("Other kinds of files are shown with "
+                                                     "View, Filter, All Files."));
+    } else {
+        emptyState->Show({}, {}, {});
+    }
+}
+
+void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
+{
+    if (wanted == style)
+        return;
+    const bool hadFocus = View()->hasFocus();
+    const bool hasItems = Model().rowCount() > 0;
+    keeper.Capture(*View(), list);
+    Model().Reset(false);
+    style = wanted;
+    Model().Reset(hasItems);
+    pages->setCurrentWidget(View());
+    setFocusProxy(View());
+    if (hadFocus)
+        View()->setFocus();
+    keeper.Restore(*View(), list);
+    emptyState->raise();
+    if (style == ViewStyle::details)
+        filler.ReadFacts();
+    Q_EMIT StatusChanged();
+    Q_EMIT WorkAppeared();
+}
+
+void CIEShellListCtrl::SetFilter(int mode, int includeFolders)
+{
+    if (list.SetFilter(mode, includeFolders))
+        Refresh();
+}
+
+void CIEShellListCtrl::SelectAll()
+{
+    View()->selectAll();
+}
+
+void CIEShellListCtrl::SelectNone()
+{
+    View()->clearSelection();
+}
+
+void CIEShellListCtrl::InvertSelection()
+{
+    const QAbstractItemModel& model = *View()->model();
+    if (model.rowCount() == 0)
+        return;
+    const QItemSelection all(model.index(0, 0), model.index(model.rowCount() - 1, model.columnCount() - 1));
+    View()->selectionModel()->select(all, QItemSelectionModel::Toggle);
+}
+
+void CIEShellListCtrl::CopySelection() const
+{
+    QByteArray uris;
+    for (const QItemSelectionRange& range : View()->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom() && row < list.Count(); ++row)
+            uris += FileUri(list.PathOf(row)) + "\r\n";
+    }
+    if (uris.isEmpty())
+        return;
+    auto* copied = new QMimeData;
+    copied->setData(QStringLiteral("text/uri-list"), uris);
+    QGuiApplication::clipboard()->setMimeData(copied);
+}
+
+SelectionFacts CIEShellListCtrl::Selection() const
+{
+    SelectionFacts facts;
+    for (const QItemSelectionRange& range : View()->selectionModel()->selection()) {
+        facts.files += range.height();
+        for (int row = range.top(); row <= range.bottom() && row < list.Count(); ++row)
+            facts.bytes += list.Item(row).fileSize;
+    }
+    return facts;
+}
+
+void CIEShellListCtrl::Activate(const QModelIndex& index)
+{
+    if (!index.isValid() || index.row() >= list.Count())
+        return;
+    const std::string path = list.PathOf(index.row());
+    if (list.Item(index.row()).isFolder)
+        Q_EMIT FolderActivated(path);
+    else
+        platform::Os().shell->ShellExecute(path);
+}
+
+bool CIEShellListCtrl::ThumbnailStep()
+{
+    if (filler.IsReading())
+        return false;
+    const browser::StepOutcome outcome =
+        list.ThumbnailStep(style == ViewStyle::thumbnails, thumbnails->Visible());
+    if (outcome.redraw >= 0) {
+        nameModel.ItemChanged(outcome.redraw);
+        Q_EMIT ThumbnailMade();
+    }
+    if (!outcome.moreToDo) {
+        // Those that failed change their looks, too.
+        thumbnails->viewport()->update();
+        Q_EMIT ThumbnailMade();
+    }
+    if (IsScreenComplete())
+        filler.ReadFacts();
+    return outcome.moreToDo;
+}
+
+bool CIEShellListCtrl::IsScreenComplete() const
+{
+    const auto visible = thumbnails->Visible();
+    if (filler.IsReading())
+        return false;
+    if (style == ViewStyle::details || !visible)
+        return true;
+    for (int row = visible->first; row <= visible->last && row < list.Count(); ++row) {
+        const browser::MediaItem& item = list.Item(row);
+        if (item.needsThumbnail && !item.thumbnail && !item.thumbnailFailed)
+            return false;
+    }
+    return true;
+}
+
+void CIEShellListCtrl::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    emptyState->setGeometry(rect());
+    emptyState->raise();
+}
+
+}  // namespace ui

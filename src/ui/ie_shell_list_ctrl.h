@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CIEShellListCtrl: the files of the current place, as thumbnails or as details.
+//
+// It owns the list and the thumbnail store's manager. The owner calls ThumbnailStep on each tick of its
+// timer while there is work, and starts ticking when WorkAppeared is heard.
+#pragma once
+
+#include "browser/media_file_list.h"
+#include "browser/thumb_db_mgr.h"
+#include "ui/details_view.h"
+#include "ui/empty_state.h"
+#include "ui/list_filler.h"
+#include "ui/media_list_model.h"
+#include "ui/selection_keeper.h"
+#include "ui/thumbnail_view.h"
+
+#include <QStackedLayout>
+#include <QWidget>
+
+namespace ui
+{
+
+enum class ViewStyle { thumbnails, details };
+
+struct SelectionFacts {
+    int files = 0;
+    std::uint64_t bytes = 0;  // of those whose size is known
+};
+
+class CIEShellListCtrl : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `storeFolder`: where thumbnails are kept; empty for nowhere.
+    explicit CIEShellListCtrl(const std::string& storeFolder, QWidget* parent = nullptr);
+    ~CIEShellListCtrl() override;
+
+    // Shows a folder; `selectName` becomes selected when it is there.
+    void OpenFolder(const std::string& path, const std::string& selectName = {});
+    // Reads the folder anew; selection, current item and scroll position stay.
+    void Refresh();
+    void SetViewStyle(ViewStyle wanted);
+    ViewStyle Style() const { return style; }
+    void SetThumbnailSide(int pixels) { thumbnails->SetThumbnailSide(pixels); }
+    // As CMediaFileList::SetFilter.
+    void SetFilter(int mode, int includeFolders);
+
+    void SelectAll();
+    void SelectNone();
+    void InvertSelection();
+    // Puts the selected files on the clipboard.
+    void CopySelection() const;
+    SelectionFacts Selection() const;
+    // Opens the current file with the desktop's program, or tells of the current folder.
+    void Activate(const QModelIndex& index);
+
+    // One tick; false when nothing is left to do.
+    bool ThumbnailStep();
+    bool IsReading() const { return filler.IsReading(); }
+    // Whether every picture on screen has its thumbnail or will have none.
+    bool IsScreenComplete() const;
+
+    const browser::CMediaFileList& List() const { return list; }
+    QAbstractItemView* View() const;
+    CThumbnailView* Thumbnails() const { return thumbnails; }
+    const CEmptyState* EmptyState() const { return emptyState; }
+
+Q_SIGNALS:
+    void WorkAppeared();
+    // Items, selection or sizes have changed.
+    void StatusChanged();
+    void ThumbnailMade();
+    void FolderActivated(const std::string& path);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void WatchView(QAbstractItemView* view);
+    void KeepState();
+    void OnFilled();
+    void SayWhyEmpty();
+    CMediaListModel& Model() { return style == ViewStyle::thumbnails ? nameModel : allModel; }
+
+    browser::CThumbDbMgr storeManager;
+    browser::CMediaFileList list;
+    CMediaListModel nameModel;
+    CMediaListModel allModel;
+    CListFiller filler;
+    CSelectionKeeper keeper;
+    bool stateIsKept = false;  // nothing has been selected or scrolled since the keeper took the state
+    ViewStyle style = ViewStyle::thumbnails;
+    CThumbnailView* thumbnails;
+    CDetailsView* details;
+    QStackedLayout* pages;
+    CEmptyState* emptyState;
+};
+
+}  // namespace ui

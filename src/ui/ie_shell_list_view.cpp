@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/ie_shell_list_view.h"
+
+#include "ui/icons.h"
+#include "ui/main_menu.h"
+#include "ui/theme.h"
+
+#include <QHBoxLayout>
+#include <QSlider>
+#include <QToolButton>
+
+#include <array>
+
+namespace ui
+{
+
+namespace
+{
+
+constexpr std::array kSides = {80, 120, 180};
+
+QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setDefaultAction(action);
+    button->setIcon(ThemedIcon(drawing));
+    button->setIconSize({16, 16});
+    button->setFixedSize(8 * kGrid, 8 * kGrid);
+    button->setAutoRaise(true);
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->text());
+    return button;
+}
+
+}  // namespace
+
+CIEShellListView::CIEShellListView(const std::string& storeFolder, const CMainMenu& menu, QWidget* parent)
+    : QWidget(parent), up(new QAction(QStringLiteral("Up"), this)), path(new CPathLabel(this)),
+      sizeControl(new QSlider(Qt::Horizontal, this)), ctrl(new CIEShellListCtrl(storeFolder, this))
+{
+    up->setShortcuts({QKeySequence(QStringLiteral("Alt+Up")), QKeySequence(Qt::Key_Backspace)});
+    up->setToolTip(QStringLiteral("To the folder above (Alt+Up)"));
+    addAction(up);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(MakeBar(menu));
+    auto* line = new QWidget(this);
+    line->setFixedHeight(1);
+    line->setAutoFillBackground(true);
+    line->setBackgroundRole(QPalette::AlternateBase);
+    column->addWidget(line);
+    column->addWidget(ctrl, 1);
+    setFocusProxy(ctrl);
+    connect(sizeControl, &QSlider::valueChanged, this, [this](int step) {
+        ctrl->SetThumbnailSide(kSides[static_cast<std::size_t>(step)]);
+        Q_EMIT ThumbnailStepChosen(step);
+    });
+}
+
+QWidget* CIEShellListView::MakeBar(const CMainMenu& menu)
+{
+    sizeControl->setRange(0, static_cast<int>(kSides.size()) - 1);
+    sizeControl->setValue(1);
+    sizeControl->setPageStep(1);
+    sizeControl->setFixedWidth(20 * kGrid);
+    sizeControl->setFocusPolicy(Qt::TabFocus);
+    sizeControl->setAccessibleName(QStringLiteral("Thumbnail size"));
+    sizeControl->setToolTip(QStringLiteral("Thumbnail size"));
+    auto* bar = new QWidget(this);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);
+    row->setSpacing(kGrid);
+    row->addWidget(MakeButton(up, QStringLiteral("up"), bar));
+    row->addSpacing(kGrid);
+    row->addWidget(path, 1);
+    row->addWidget(sizeControl);
+    row->addSpacing(2 * kGrid);
+    row->addWidget(MakeButton(menu.Action(app::CommandId::thumbnails), QStringLiteral("thumbnails"), bar));
+    row->addWidget(MakeButton(menu.Action(app::CommandId::details), QStringLiteral("details"), bar));
+    return bar;
+}
+
+void CIEShellListView::OpenFolder(const std::string& folder, const std::string& selectName)
+{
+    path->SetPath(folder);
+    up->setEnabled(folder != "/");
+    ctrl->OpenFolder(folder, selectName);
+}
+
+void CIEShellListView::SetViewStyle(ViewStyle style)
+{
+    ctrl->SetViewStyle(style);
+    sizeControl->setEnabled(style == ViewStyle::thumbnails);
+}
+
+void CIEShellListView::SetThumbnailStep(int step)
+{
+    sizeControl->setValue(step);
+}
+
+}  // namespace ui

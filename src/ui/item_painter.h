@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CItemPainter: one cell of the thumbnail view.
+#pragma once
+
+#include "browser/media_file_list.h"
+
+#include <QCache>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPixmap>
+
+namespace ui
+{
+
+struct CellLook {
+    QRect box;
+    bool selected = false;
+    bool current = false;  // the view has the focus and this is its current item
+    bool hovered = false;
+};
+
+class CItemPainter
+{
+public:
+    CItemPainter();
+    // `side`: the edge of the square that pictures are fitted into.
+    static QSize CellSize(int side, const QFontMetrics& metrics);
+    void Draw(QPainter& painter, const browser::MediaItem& item, const CellLook& look);
+    // The drawing that stands for a file until, or instead of, its thumbnail.
+    static QString IconName(const browser::MediaItem& item);
+
+private:
+    // A picture at the size in which it is drawn, with what it was made from, so that the address stays its
+    // own.
+    struct Scaled {
+        platform::BitmapHandle source;
+        QSize size;
+        QPixmap picture;
+    };
+    void DrawPicture(QPainter& painter, const platform::BitmapHandle& bitmap, const QRect& box);
+    static void DrawIcon(QPainter& painter, const browser::MediaItem& item, const QRect& box);
+    static void DrawName(QPainter& painter, const QString& name, const QRect& box);
+    const QPixmap& ScaledPicture(const platform::BitmapHandle& bitmap, const QSize& pixels);
+
+    QCache<const platform::Bitmap*, Scaled> cache;
+};
+
+// A bitmap's pixels as a picture that shares them; they live as long as it does.
+QImage ImageOf(const platform::BitmapHandle& bitmap);
+
+}  // namespace ui

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/left_view.h"
+
+#include "ui/empty_state.h"
+
+#include <QVBoxLayout>
+
+namespace ui
+{
+
+CLeftView::CLeftView(app::CDataFolders& dataFolders, QWidget* parent)
+    : QWidget(parent), tabBar(new TabWindow(state.tabs, this)), panels(new QStackedWidget(this)),
+      deviceTree(new CFolderTree(app::DevicePlaces(dataFolders), QStringLiteral("Favourites and devices")))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(tabBar);
+    column->addWidget(panels, 1);
+    panels->addWidget(deviceTree);
+    deviceTree->ExpandPlaces();
+    setFocusProxy(deviceTree);
+    connect(tabBar, &TabWindow::Clicked, this, &CLeftView::ShowTab);
+    connect(deviceTree, &CFolderTree::FolderChosen, this, &CLeftView::SelectFolder);
+}
+
+CFolderTree* CLeftView::FolderTree()
+{
+    if (!folderTree) {
+        folderTree = new CFolderTree(app::FolderPlaces(), QStringLiteral("Folders"));
+        panels->addWidget(folderTree);
+        connect(folderTree, &CFolderTree::FolderChosen, this, &CLeftView::SelectFolder);
+    }
+    return folderTree;
+}
+
+CFolderTree* CLeftView::Tree() const
+{
+    const bool second =
+        state.Mode() == app::PanelMode::folder ||
+        (state.Mode() == app::PanelMode::search && state.PreviousMode() == app::PanelMode::folder);
+    return second ? folderTree : deviceTree;
+}
+
+std::string CLeftView::Folder() const
+{
+    return Tree()->Folder();
+}
+
+void CLeftView::ShowTab(int id)
+{
+    if (id == app::kSearchTab)
+        return ShowSearch();
+    ShowTree(id == app::kFolderTab ? app::PanelMode::folder : app::PanelMode::device);
+    CFolderTree* tree = Tree();
+    // A tree that has nothing selected takes over the folder on show where it leads there.
+    if (tree->Folder().empty())
+        tree->SelectFolder(chosen);
+    if (const std::string path = tree->Folder(); !path.empty() && path != chosen) {
+        chosen = path;
+        Q_EMIT FolderChosen(path);
+    }
+}
+
+void CLeftView::ShowTree(app::PanelMode mode)
+{
+    CFolderTree* tree = mode == app::PanelMode::folder ? FolderTree() : deviceTree;
+    state.ShowTree(mode);
+    tabBar->Update();
+    panels->setCurrentWidget(tree);
+    setFocusProxy(tree);
+}
+
+void CLeftView::ShowSearch()
+{
+    if (!searchPanel) {
+        searchPanel = MakeSearchPanel();
+        panels->addWidget(searchPanel);
+    }
+    state.OpenSearch(deviceTree->Folder(), folderTree ? folderTree->Folder() : std::string{});
+    tabBar->Update();
+    panels->setCurrentWidget(searchPanel);
+    setFocusProxy(searchPanel);
+    searchPanel->setFocus();
+}
+
+QWidget* CLeftView::MakeSearchPanel()
+{
+    auto* panel = new CEmptyState(this);
+    panel->setFocusPolicy(Qt::StrongFocus);
+    panel->Show(QStringLiteral("search"), QStringLiteral("No search yet"),
+                QStringLiteral("Searching by name, caption and date comes in a later version."));
+    return panel;
+}
+
+void CLeftView::SelectFolder(const std::string& path)
+{
+    const bool searching = state.Mode() == app::PanelMode::search;
+    if (searching || (Tree()->Folder() != path && !Tree()->SelectFolder(path))) {
+        if (searching)
+            ShowTree(state.PreviousMode());
+        if (!Tree()->SelectFolder(path)) {
+            ShowTree(app::PanelMode::folder);
+            FolderTree()->SelectFolder(path);
+        }
+    }
+    chosen = path;
+    Q_EMIT FolderChosen(path);
+}
+
+}  // namespace ui

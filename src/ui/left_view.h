@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CLeftView: the left pane. It chooses the folder that the right pane lists.
+#pragma once
+
+#include "app/left_pane.h"
+#include "ui/folder_tree.h"
+#include "ui/tab_window.h"
+
+#include <QStackedWidget>
+
+namespace ui
+{
+
+class CLeftView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CLeftView(app::CDataFolders& dataFolders, QWidget* parent = nullptr);
+
+    // Carries out a tab's command.
+    void ShowTab(int id);
+    // Selects a folder in the tree that is shown, or in the folder tree where the other one does not lead
+    // there, and tells of it.
+    void SelectFolder(const std::string& path);
+    // The folder selected in the tree that is shown, or was before the search.
+    std::string Folder() const;
+    app::TabMode Mode() const { return state.tabs.Mode(); }
+    TabWindow* Tabs() const { return tabBar; }
+    CFolderTree* Tree() const;
+
+Q_SIGNALS:
+    void FolderChosen(const std::string& path);
+
+private:
+    void ShowTree(app::PanelMode mode);
+    void ShowSearch();
+    CFolderTree* FolderTree();
+    QWidget* MakeSearchPanel();
+
+    app::CLeftPane state;
+    TabWindow* tabBar;
+    QStackedWidget* panels;
+    CFolderTree* deviceTree;
+    CFolderTree* folderTree = nullptr;  // made when first shown
+    QWidget* searchPanel = nullptr;     // made when first shown
+    std::string chosen;                 // the folder told of last
+};
+
+}  // namespace ui

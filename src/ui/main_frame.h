@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CMainFrame: the main window. It carries out the commands and ticks the making of thumbnails.
+#pragma once
+
+#include "app/data_folders.h"
+#include "app/kelvo_app.h"
+#include "app/main_frame_state.h"
+#include "app/settings.h"
+#include "ui/ie_shell_list_view.h"
+#include "ui/left_view.h"
+#include "ui/main_menu.h"
+#include "ui/status_bar.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+namespace ui
+{
+
+class CMainFrame : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // Both must outlive the window.
+    CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dataFolders);
+    ~CMainFrame() override;
+
+    // Shows a folder in both panes; `selectName` becomes selected when it is there.
+    void GoTo(const std::string& folder, const std::string& selectName = {});
+    // The folder that the window starts with when none is asked for.
+    void GoToStart();
+    // Tells the user of things that went wrong, without waiting for an answer.
+    void Tell(const QString& text);
+    void Run(app::CommandId id);
+
+    CLeftView* LeftView() const { return left; }
+    CIEShellListView* ListView() const { return right; }
+    CIEShellListCtrl* List() const { return right->Ctrl(); }
+    CStatusBar* Status() const { return status; }
+    const CMainMenu* Menu() const { return menu; }
+    app::CMainFrameState& State() { return state; }
+    // Whether the thumbnail timer runs.
+    bool IsTicking() const { return thumbnailTimer.isActive(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void LoadSettings();
+    void BuildPanes();
+    void ConnectList();
+    void Tick();
+    void RunViewCommand(app::CommandId id);
+    void GoUp();
+    void SwitchPane();
+    void ShowHelp();
+    void ShowAbout();
+
+    const app::CKelvoApp& owner;
+    app::CDataFolders& folders;
+    app::CSettings settings;
+    app::CMainFrameState state;
+    CMainMenu* menu;
+    CLeftView* left;
+    CIEShellListView* right;
+    CStatusBar* status;
+    std::string nameWanted;  // to be selected in the folder that is about to open
+    QTimer thumbnailTimer;
+};
+
+}  // namespace ui

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/media_list_model.h"
+
+#include "browser/file_names.h"
+#include "browser/media_types.h"
+#include "ui/display_text.h"
+#include "ui/icons.h"
+#include "ui/item_painter.h"
+
+namespace ui
+{
+
+QString TypeText(const browser::MediaItem& item)
+{
+    if (item.isFolder)
+        return QStringLiteral("Folder");
+    const QString extension = Shown(browser::Extension(item.name)).toUpper();
+    QString kind = QStringLiteral("file");
+    if (item.types & (browser::kTypePicture | browser::kTypeHandsetImage))
+        kind = QStringLiteral("picture");
+    else if (item.types & browser::kTypeVideo)
+        kind = QStringLiteral("video");
+    else if (item.types & browser::kTypeSound)
+        kind = QStringLiteral("sound");
+    return extension.isEmpty() ? QStringLiteral("File") : extension + QLatin1Char(' ') + kind;
+}
+
+CMediaListModel::CMediaListModel(browser::CMediaFileList& mediaList, Columns shown, QObject* parent)
+    : QAbstractTableModel(parent), list(mediaList), columns(shown)
+{
+}
+
+void CMediaListModel::Reset(bool withItems)
+{
+    beginResetModel();
+    rows = withItems ? list.Count() : 0;
+    endResetModel();
+}
+
+void CMediaListModel::ItemChanged(int row)
+{
+    if (row >= 0 && row < rows)
+        Q_EMIT dataChanged(index(row, nameColumn), index(row, columnCount() - 1));
+}
+
+void CMediaListModel::FactsChanged()
+{
+    if (rows > 0 && columns == Columns::all)
+        Q_EMIT dataChanged(index(0, sizeColumn), index(rows - 1, modifiedColumn), {Qt::DisplayRole});
+}
+
+int CMediaListModel::columnCount(const QModelIndex& parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return columns == Columns::name ? 1 : modifiedColumn + 1;
+}
+
+QVariant CMediaListModel::data(const QModelIndex& index, int role) const
+{
+    const int row = index.row();
+    if (!index.isValid() || row >= rows || row >= list.Count())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return CellText(row, index.column());
+    case Qt::ToolTipRole:
+        return Tip(row);
+    case Qt::TextAlignmentRole:
+        if (index.column() == sizeColumn)
+            return int(Qt::AlignRight | Qt::AlignVCenter);
+        return {};
+    case Qt::DecorationRole:
+        if (columns == Columns::all && index.column() == nameColumn)
+            return ThemedIcon(CItemPainter::IconName(list.Item(row)));
+        return {};
+    default:
+        return {};
+    }
+}
+
+QString CMediaListModel::CellText(int row, int column) const
+{
+    const browser::MediaItem& item = list.Item(row);
+    switch (column) {
+    case nameColumn:
+        return Shown(item.name);
+    case typeColumn:
+        return TypeText(item);
+    case sizeColumn:
+        return item.isFolder || !list.ReadFacts(row) ? QString() : SizeText(item.fileSize);
+    case modifiedColumn:
+        return list.ReadFacts(row) ? TimeText(item.lastWriteTime) : QString();
+    default:
+        return {};
+    }
+}
+
+QString CMediaListModel::Tip(int row) const
+{
+    // Plain text: a name must not be taken for markup.
+    QString tip = Shown(list.Item(row).name).toHtmlEscaped() + QStringLiteral("<br>") +
+                  TypeText(list.Item(row)).toHtmlEscaped();
+    for (const int column : {int(sizeColumn), int(modifiedColumn)}) {
+        if (const QString text = CellText(row, column); !text.isEmpty())
+            tip += QStringLiteral("<br>") + text.toHtmlEscaped();
+    }
+    return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip);
+}
+
+QVariant CMediaListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return int((section == sizeColumn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole)
+        return {};
+    static const QStringList headings = Shown(browser::kColumnHeadings).split(QLatin1Char('|'));
+    return headings.value(section);
+}
+
+Qt::ItemFlags CMediaListModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+}
+
+}  // namespace ui

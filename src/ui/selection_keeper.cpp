@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/selection_keeper.h"
+
+#include <QAbstractItemView>
+#include <QScrollBar>
+
+namespace ui
+{
+
+namespace
+{
+
+// Somewhere inside the first cell of a view.
+constexpr QPoint kFirstCell(20, 12);
+
+}  // namespace
+
+int SelectedRows(const QItemSelection& selection)
+{
+    int rows = 0;
+    for (const QItemSelectionRange& range : selection)
+        rows += range.height();
+    return rows;
+}
+
+void CSelectionKeeper::Capture(const QAbstractItemView& view, const browser::CMediaFileList& list)
+{
+    Forget();
+    const int count = list.Count();
+    for (const QItemSelectionRange& range : view.selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom() && row < count; ++row)
+            selected.insert(list.Item(row).name);
+    }
+    if (const int row = view.currentIndex().row(); row >= 0 && row < count)
+        current = list.Item(row).name;
+    const QModelIndex first = view.indexAt(kFirstCell);
+    if (first.isValid() && first.row() < count) {
+        top = list.Item(first.row()).name;
+        topOffset = view.visualRect(first).top();
+    }
+}
+
+void CSelectionKeeper::Want(const std::string& fileName)
+{
+    Forget();
+    selected.insert(fileName);
+    current = fileName;
+    showCurrent = true;
+}
+
+void CSelectionKeeper::Restore(QAbstractItemView& view, const browser::CMediaFileList& list) const
+{
+    if (selected.empty() && current.empty() && top.empty())
+        return;
+    QItemSelection chosen;
+    QModelIndex currentIndex;
+    QModelIndex topIndex;
+    const QAbstractItemModel& model = *view.model();
+    int runStart = -1;
+    const int count = std::min(list.Count(), model.rowCount());
+    for (int row = 0; row <= count; ++row) {
+        const bool in = row < count && selected.contains(list.Item(row).name);
+        if (in && runStart < 0)
+            runStart = row;
+        if (!in && runStart >= 0) {
+            chosen.select(model.index(runStart, 0), model.index(row - 1, model.columnCount() - 1));
+            runStart = -1;
+        }
+        if (row < count && list.Item(row).name == current)
+            currentIndex = model.index(row, 0);
+        if (row < count && list.Item(row).name == top)
+            topIndex = model.index(row, 0);
+    }
+    view.selectionModel()->setCurrentIndex(currentIndex, QItemSelectionModel::NoUpdate);
+    view.selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
+    if (topIndex.isValid()) {
+        view.scrollTo(topIndex, QAbstractItemView::PositionAtTop);
+        QScrollBar& bar = *view.verticalScrollBar();
+        bar.setValue(bar.value() + view.visualRect(topIndex).top() - topOffset);
+    }
+    if (showCurrent && currentIndex.isValid())
+        view.scrollTo(currentIndex, QAbstractItemView::PositionAtCenter);
+}
+
+}  // namespace ui

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CSelectionKeeper: remembers by name what is selected, current and at the top of a view, and finds it again
+// after the list has been read anew.
+#pragma once
+
+#include "browser/media_file_list.h"
+
+#include <QItemSelection>
+
+#include <string>
+#include <unordered_set>
+
+class QAbstractItemView;
+
+namespace ui
+{
+
+class CSelectionKeeper
+{
+public:
+    // Takes the state of `view`, which shows the items of `list`.
+    void Capture(const QAbstractItemView& view, const browser::CMediaFileList& list);
+    // Nothing is kept but this file, which becomes selected and current.
+    void Want(const std::string& fileName);
+    void Forget() { *this = {}; }
+    // Puts the state into `view`; names that are gone are left out.
+    void Restore(QAbstractItemView& view, const browser::CMediaFileList& list) const;
+
+private:
+    std::unordered_set<std::string> selected;
+    std::string current;
+    std::string top;
+    int topOffset = 0;  // where the top item's upper edge was, in pixels from the view's
+    bool showCurrent = false;
+};
+
+// How many rows are selected, however many columns each has.
+int SelectedRows(const QItemSelection& selection);
+
+}  // namespace ui

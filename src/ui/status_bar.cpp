@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/status_bar.h"
+
+#include "ui/display_text.h"
+#include "ui/style.h"
+#include "ui/theme.h"
+
+#include <QPainter>
+
+namespace ui
+{
+
+namespace
+{
+
+class CProgressLine : public QProgressBar
+{
+public:
+    explicit CProgressLine(QWidget* parent) : QProgressBar(parent)
+    {
+        setTextVisible(false);
+        setFixedSize(30 * kGrid, kGrid);
+        setAccessibleName(QStringLiteral("Thumbnails"));
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        FillRounded(painter, rect(), CTheme::Colours().line, height() / 2.0);
+        QRectF done = rect();
+        done.setWidth(done.width() * (value() - minimum()) / std::max(1, maximum() - minimum()));
+        FillRounded(painter, done, CTheme::Colours().accent, height() / 2.0);
+    }
+};
+
+}  // namespace
+
+CStatusBar::CStatusBar(QWidget* parent)
+    : QStatusBar(parent), files(new QLabel(this)), selection(new QLabel(this)),
+      thumbnailsLeft(new QLabel(this)), progress(new CProgressLine(this))
+{
+    setSizeGripEnabled(false);
+    setContentsMargins(2 * kGrid, 0, 2 * kGrid, 0);
+    files->setContentsMargins(0, 0, 4 * kGrid, 0);
+    addWidget(files);
+    addWidget(selection, 1);
+    addPermanentWidget(thumbnailsLeft);
+    addPermanentWidget(progress);
+    progress->hide();
+}
+
+void CStatusBar::ShowFiles(const CIEShellListCtrl& ctrl)
+{
+    const browser::CMediaFileList& list = ctrl.List();
+    const QString one = QStringLiteral("file");
+    const QString many = QStringLiteral("files");
+    if (ctrl.IsReading()) {
+        files->setText(QStringLiteral("Reading: %1").arg(CountText(list.FilledSoFar(), one, many)));
+    } else {
+        QString text = CountText(static_cast<std::size_t>(list.Count()), one, many);
+        if (list.Count() > 0 && list.AllFactsKnown())
+            text += QStringLiteral("  \u00b7  ") + SizeText(list.KnownBytes());
+        files->setText(text);
+    }
+    const SelectionFacts chosen = ctrl.Selection();
+    selection->setText(chosen.files == 0
+                           ? QString()
+                           : QStringLiteral("%1 selected  \u00b7  %2")
+                                 .arg(QLocale().toString(chosen.files), SizeText(chosen.bytes)));
+    ShowThumbnails(ctrl);
+}
+
+void CStatusBar::ShowThumbnails(const CIEShellListCtrl& ctrl)
+{
+    const int left = ctrl.Style() == ViewStyle::thumbnails ? ctrl.List().ThumbnailsLeft() : 0;
+    most = left == 0 ? 0 : std::max(most, left);
+    progress->setVisible(left > 0);
+    progress->setRange(0, std::max(most, 1));
+    progress->setValue(most - left);
+    thumbnailsLeft->setText(left == 0 ? QString()
+                                      : QStringLiteral("%1 left").arg(CountText(
+                                            static_cast<std::size_t>(left), QStringLiteral("thumbnail"),
+                                            QStringLiteral("thumbnails"))));
+}
+
+}  // namespace ui
