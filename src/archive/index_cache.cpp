@@ -21,10 +21,17 @@ struct KeptIndex {
 };
 
 std::mutex guard;
-std::list<KeptIndex> kept;  // the one used last comes first
+
+// The one used last comes first. Never destroyed: freeing every name at the end of the process is lost time.
+std::list<KeptIndex>& Kept()
+{
+    static auto* const kept = new std::list<KeptIndex>;
+    return *kept;
+}
 
 void DropOldest()
 {
+    std::list<KeptIndex>& kept = Kept();
     std::size_t members = 0;
     std::size_t indexes = 0;
     auto last = kept.begin();
@@ -38,6 +45,7 @@ void DropOldest()
 
 std::unique_ptr<CPackageIndex> Remove(const std::string& path, const platform::FileStamp& stamp)
 {
+    std::list<KeptIndex>& kept = Kept();
     std::unique_ptr<CPackageIndex> found;
     for (auto place = kept.begin(); place != kept.end();) {
         if (place->path != path) {
@@ -64,7 +72,7 @@ void KeepIndex(const std::string& path, const platform::FileStamp& stamp,
 {
     const std::lock_guard hold(guard);
     Remove(path, stamp);
-    kept.push_front({path, stamp, std::move(index)});
+    Kept().push_front({path, stamp, std::move(index)});
     DropOldest();
 }
 

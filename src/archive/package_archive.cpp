@@ -10,7 +10,6 @@
 
 #include <array>
 #include <mutex>
-#include <new>
 
 namespace archive
 {
@@ -67,7 +66,7 @@ bool CPackageArchive::Open(const std::string& path, Mode wanted)
         return false;
     archivePath = path;
     mode = wanted;
-    if (mode != Mode::create ? ReadIndex() : PrepareHeader())
+    if (mode != Mode::create ? BeginIndex() : PrepareHeader())
         return true;
     Forget();
     return false;
@@ -98,19 +97,15 @@ CPackageArchive::Opening CPackageArchive::OpenLocked(const std::string& path, Mo
     return Opening::again;
 }
 
-bool CPackageArchive::ReadIndex()
+bool CPackageArchive::BeginIndex()
 {
     const auto found = file->Stamp();
     if (!found)
         return FailAs("the archive cannot be read");
     stamp = *found;
     index = TakeIndex(archivePath, stamp);
-    try {
-        if (!index)
-            index = CPackageIndex::Read(*file, stamp.size);
-    } catch (const std::bad_alloc&) {
-        return Fail("the archive has more members than memory can hold");
-    }
+    if (!index)
+        index = CPackageIndex::Begin(*file, stamp.size);
     indexFits = index != nullptr;
     return indexFits || FailAs("the archive cannot be read");
 }
@@ -180,12 +175,22 @@ void CPackageArchive::Forget()
 
 std::optional<std::size_t> CPackageArchive::Find(const std::string& name) const
 {
-    return index ? index->Find(name, NameMatch::anyCase) : std::nullopt;
+    return index ? index->Find(*file, name, NameMatch::anyCase) : std::nullopt;
 }
 
 std::optional<std::size_t> CPackageArchive::FindExact(const std::string& name) const
 {
-    return index ? index->Find(name, NameMatch::exact) : std::nullopt;
+    return index ? index->Find(*file, name, NameMatch::exact) : std::nullopt;
+}
+
+std::size_t CPackageArchive::Count() const
+{
+    return index && index->ReadAll(*file) ? index->Count() : 0;
+}
+
+bool CPackageArchive::Holds(std::size_t position) const
+{
+    return (index && position < index->Count()) || position < Count();
 }
 
 bool CPackageArchive::MayChange()
@@ -196,7 +201,7 @@ bool CPackageArchive::MayChange()
         return Fail("the archive is open for reading only");
     if (index->Header() == HeaderState::foreign)
         return Fail("the file is not a package archive");
-    return true;
+    return index->ReadAll(*file) || FailAs("the archive cannot be read");
 }
 
 bool CPackageArchive::Remove(std::size_t position)
@@ -205,7 +210,7 @@ bool CPackageArchive::Remove(std::size_t position)
         return false;
     if (mode != Mode::readWrite)
         return Fail("the archive was opened for making it anew");
-    if (position >= Count())
+    if (!Holds(position))
         return Fail("there is no such member");
     if (Member(position).deleted)
         return true;
@@ -224,7 +229,7 @@ bool CPackageArchive::SetTexts(std::size_t position, const std::optional<std::st
                                const std::optional<std::string>& timeStampText,
                                const std::optional<std::string>& secondText)
 {
-    if (position >= Count() || Member(position).deleted)
+    if (!Holds(position) || Member(position).deleted)
         return Fail("there is no such member");
     PackageMember& member = index->Editable(position);
     const std::pair<std::string*, const std::optional<std::string>&> texts[] = {

@@ -7,7 +7,8 @@
 //
 // While it is open, the file is locked: shared when open for reading, else exclusive. A kill at any instant
 // and a full disk leave the state before an operation or the one after it. Opening, finding and adding cost
-// the same however many members there are, as long as this process saw the archive's latest state before.
+// the same however many members there are, as long as this process saw the archive's latest state before;
+// otherwise finding reads the records up to the one that it finds.
 //
 // One object, one thread, but for Abort. Nothing throws; every operation says whether it succeeded, and
 // Error tells why not. Indexes of members hold until Close.
@@ -70,9 +71,9 @@ public:
     std::optional<std::size_t> Find(const std::string& name) const;
     // The same, byte for byte.
     std::optional<std::size_t> FindExact(const std::string& name) const;
-    // Deleted members included.
-    std::size_t Count() const { return index ? index->Count() : 0; }
-    // The reference holds until Close.
+    // Deleted members included; 0 when the archive cannot be read to its end.
+    std::size_t Count() const;
+    // `position` is below Count, or was found. The reference holds until Close.
     const PackageMember& Member(std::size_t position) const { return index->Member(position); }
 
     // Writes the member's data to a file of its name, replacing one that is there (and never what a link of
@@ -105,7 +106,8 @@ protected:
 private:
     enum class Opening { done, failed, again };
     Opening OpenLocked(const std::string& path, Mode wanted);
-    bool ReadIndex();
+    bool BeginIndex();
+    bool Holds(std::size_t position) const;
     bool Fail(const std::string& reason);
     bool FailAs(const std::string& what);
     bool MayChange();

@@ -160,7 +160,7 @@ bool CPackageArchive::MayExtract(std::size_t position)
 {
     if (!IsOpen())
         return Fail("no archive is open");
-    if (position >= Count() || Member(position).deleted)
+    if (!Holds(position) || Member(position).deleted)
         return Fail("there is no such member");
     return true;
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 
 namespace archive
 {
@@ -32,7 +33,7 @@ std::uint32_t HashOf(const std::string& name)
 
 bool SameName(const std::string& left, const std::string& right, NameMatch match)
 {
-    if (match == NameMatch::exact)
+    if (match == NameMatch::exact || left.size() != right.size())
         return left == right;
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                       [](char one, char other) { return Fold(one) == Fold(other); });
@@ -74,49 +75,77 @@ private:
 
 }  // namespace
 
-std::unique_ptr<CPackageIndex> CPackageIndex::Read(platform::CFile& file, std::uint64_t size)
+std::unique_ptr<CPackageIndex> CPackageIndex::Begin(platform::CFile& file, std::uint64_t size)
 {
     auto index = std::make_unique<CPackageIndex>();
     CWindow window(file, size);
-    const auto known = static_cast<std::size_t>(std::min<std::uint64_t>(size, kPackageMagic.size()));
-    const std::byte* bytes = window.At(0, known, kLongRead);
+    const auto known = static_cast<std::size_t>(std::min<std::uint64_t>(size, kHeaderSize));
+    const std::byte* bytes = window.At(0, known, known);
     if (known > 0 && !bytes)
         return nullptr;
-    if (known > 0 && !std::equal(bytes, bytes + known, std::as_bytes(std::span(kPackageMagic)).begin()))
+    const auto magic = std::as_bytes(std::span(kPackageMagic)).first(std::min(known, kPackageMagic.size()));
+    if (!std::equal(magic.begin(), magic.end(), bytes))
         index->header = HeaderState::foreign;
-    else if (size < kHeaderSize)
+    else if (known < kHeaderSize)
         index->header = HeaderState::unfinished;
     if (index->header != HeaderState::whole)
         return index;
-
-    if (!(bytes = window.At(0, kHeaderSize, kLongRead)))
-        return nullptr;
     index->countInFile = static_cast<std::uint32_t>(LoadNumber(bytes + kCountOffset, 4));
     index->headerEnd = index->end = kHeaderSize + HeaderTextsSize(bytes);
-    if (index->headerEnd > size) {
+    if (index->headerEnd > size)
         index->header = HeaderState::foreign;
-        return index;
-    }
-
-    std::size_t ahead = kShortRead;
-    while (index->Count() < index->countInFile) {
-        const std::uint64_t position = index->end;
-        if (!window.Fits(position, kRecordSize))
-            break;
-        if (!(bytes = window.At(position, kRecordSize, ahead)))
-            return nullptr;
-        const std::size_t recordSize = kRecordSize + RecordTextsSize(bytes);
-        if (!window.Fits(position, recordSize + LoadNumber(bytes + kStoredSizeOffset, 4)))
-            break;
-        if (!(bytes = window.At(position, recordSize, ahead)))
-            return nullptr;
-        PackageMember member = DecodeRecord(bytes);
-        member.recordPosition = position;
-        member.dataPosition = position + recordSize;
-        index->Append(std::move(member));
-        ahead = index->end - position < kSmallMember ? kLongRead : kShortRead;
-    }
+    else
+        index->unreadEnd = size;
     return index;
+}
+
+bool CPackageIndex::ReadOn(platform::CFile& file, const std::string* name, NameMatch match)
+try {
+    CWindow window(file, unreadEnd);
+    std::size_t ahead = kShortRead;
+    while (unreadEnd > 0) {
+        if (Count() >= countInFile || !window.Fits(end, kRecordSize)) {
+            unreadEnd = 0;
+            break;
+        }
+        const std::byte* bytes = window.At(end, kRecordSize, ahead);
+        if (!bytes)
+            return false;
+        const std::size_t recordSize = kRecordSize + RecordTextsSize(bytes);
+        const std::uint64_t wholeSize = recordSize + LoadNumber(bytes + kStoredSizeOffset, 4);
+        if (!window.Fits(end, wholeSize)) {
+            unreadEnd = 0;
+            break;
+        }
+        if (!(bytes = window.At(end, recordSize, ahead)))
+            return false;
+        PackageMember member = DecodeRecord(bytes);
+        member.recordPosition = end;
+        member.dataPosition = end + recordSize;
+        Append(std::move(member));
+        if (name && !members.back().deleted && SameName(members.back().name, *name, match))
+            break;
+        ahead = wholeSize < kSmallMember ? kLongRead : kShortRead;
+    }
+    return true;
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
+std::optional<std::size_t> CPackageIndex::Find(platform::CFile& file, const std::string& name,
+                                               NameMatch match)
+{
+    if (name.empty())
+        return std::nullopt;
+    const std::size_t known = Count();
+    if (known > 0) {
+        if (const auto found = FindRead(name, match))
+            return found;
+    }
+    if (!ReadOn(file, &name, match) || Count() == known)
+        return std::nullopt;
+    const PackageMember& latest = members.back();
+    return !latest.deleted && SameName(latest.name, name, match) ? std::optional(Count() - 1) : std::nullopt;
 }
 
 void CPackageIndex::Append(PackageMember member)
@@ -145,10 +174,8 @@ void CPackageIndex::MarkDeleted(std::size_t index)
         *place = links[index].next;
 }
 
-std::optional<std::size_t> CPackageIndex::Find(const std::string& name, NameMatch match)
+std::optional<std::size_t> CPackageIndex::FindRead(const std::string& name, NameMatch match)
 {
-    if (name.empty())
-        return std::nullopt;
     if (heads.empty())
         BuildTable(kFewestBuckets);
     const std::uint32_t hash = HashOf(name);

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // CPackageIndex: what an archive's file holds, without the members' data.
 //
-// The list ends at the first record that does not fit the file: what lies before damage stays readable.
-// References to members stay valid until the index ends.
+// Records are read as far as they are asked for: a search stops reading where it finds its member. The list
+// ends at the first record that does not fit the file: what lies before damage stays readable. References to
+// members stay valid until the index ends. Every call that takes the file must be given it in the state that
+// the index describes.
 #pragma once
 
 #include "archive/package_record.h"
@@ -35,22 +37,25 @@ public:
         : headerEnd(endOfHeader), end(endOfHeader), countInFile(count)
     {
     }
-    // Reads the records of a file of `size` bytes; null when reading fails (which damage does not).
-    static std::unique_ptr<CPackageIndex> Read(platform::CFile& file, std::uint64_t size);
+    // Reads the header of a file of `size` bytes; null when reading fails (which damage does not).
+    static std::unique_ptr<CPackageIndex> Begin(platform::CFile& file, std::uint64_t size);
+
+    // Reads the records that were not read yet. False when reading fails; what was read stays.
+    bool ReadAll(platform::CFile& file) { return ReadOn(file, nullptr, NameMatch::exact); }
+    // The first member that has the name and is not deleted. "Any case" is that of ASCII letters.
+    std::optional<std::size_t> Find(platform::CFile& file, const std::string& name, NameMatch match);
 
     HeaderState Header() const { return header; }
     std::uint64_t HeaderEnd() const { return headerEnd; }
-    // Where the next member goes: behind the last one that is whole.
+    // The number of members read so far, and where the last one ends.
+    std::size_t Count() const { return members.size(); }
     std::uint64_t End() const { return end; }
     // The count that the file's header holds.
     std::uint32_t CountInFile() const { return countInFile; }
     bool HoldsDeleted() const { return holdsDeleted; }
-    std::size_t Count() const { return members.size(); }
     const PackageMember& Member(std::size_t index) const { return members[index]; }
-    // The first member that has the name and is not deleted. "Any case" is that of ASCII letters.
-    std::optional<std::size_t> Find(const std::string& name, NameMatch match);
 
-    // These follow what was done to the file.
+    // These follow what was done to the file, all of whose records were read.
     void CountWritten(std::uint32_t count) { countInFile = count; }
     void Append(PackageMember member);
     void MarkDeleted(std::size_t index);
@@ -62,6 +67,9 @@ private:
         std::uint32_t hash;
         std::uint32_t next;
     };
+    // Up to the first member that has the name and is not deleted, if a name is given.
+    bool ReadOn(platform::CFile& file, const std::string* name, NameMatch match);
+    std::optional<std::size_t> FindRead(const std::string& name, NameMatch match);
     void BuildTable(std::size_t buckets);
     void Enter(std::size_t index);
 
@@ -70,9 +78,10 @@ private:
     std::uint64_t end;
     std::uint32_t countInFile;
     bool holdsDeleted = false;
+    std::uint64_t unreadEnd = 0;  // of the records yet to be read: the file's size, or 0 when there are none
     std::deque<PackageMember> members;
-    // Hash table over the names without regard to case, made at the first search: each bucket holds the
-    // number of its newest member, whose link leads to older ones.
+    // Hash table over the names without regard to case, made when the first search in memory is due: each
+    // bucket holds the number of its newest member, whose link leads to older ones.
     std::vector<std::uint32_t> heads;
     std::vector<Link> links;
 };

@@ -27,20 +27,6 @@ void Append(std::string& bytes, std::uint64_t value, std::size_t width)
 
 }  // namespace
 
-std::uint64_t LoadNumber(const std::byte* from, std::size_t width)
-{
-    std::uint64_t value = 0;
-    for (std::size_t i = width; i-- > 0;)
-        value = value << 8 | std::to_integer<std::uint64_t>(from[i]);
-    return value;
-}
-
-void StoreNumber(std::byte* to, std::uint64_t value, std::size_t width)
-{
-    for (std::size_t i = 0; i < width; ++i)
-        to[i] = static_cast<std::byte>(value >> (8 * i) & 0xff);
-}
-
 std::string EncodeHeader(std::uint32_t count)
 {
     std::string bytes(kPackageMagic);

@@ -40,8 +40,19 @@ inline constexpr std::size_t kDeletedMarkOffset = 46;
 inline constexpr std::size_t kRecordSize = 48;  // without the texts
 inline constexpr std::size_t kLongestText = 65535;
 
-std::uint64_t LoadNumber(const std::byte* from, std::size_t width);
-void StoreNumber(std::byte* to, std::uint64_t value, std::size_t width);
+inline std::uint64_t LoadNumber(const std::byte* from, std::size_t width)
+{
+    std::uint64_t value = 0;
+    for (std::size_t i = width; i-- > 0;)
+        value = value << 8 | std::to_integer<std::uint64_t>(from[i]);
+    return value;
+}
+
+inline void StoreNumber(std::byte* to, std::uint64_t value, std::size_t width)
+{
+    for (std::size_t i = 0; i < width; ++i)
+        to[i] = static_cast<std::byte>(value >> (8 * i) & 0xff);
+}
 
 // The header of an archive with `count` members.
 std::string EncodeHeader(std::uint32_t count);
