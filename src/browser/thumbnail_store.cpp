@@ -137,16 +137,22 @@ bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitm
     return kept;
 }
 
-// Making the archive and finding it already made must not cross: two processes would empty each other's.
+// Making the archive and finding it already made must not cross: two processes would empty each other's. A
+// file that is no archive has nothing to keep.
 bool CThumbnailStore::OpenForAdding(CPackageArchive& opened, const std::string& archivePath) const
 {
-    if (Files().FindFirstFile(archivePath)) {
-        return opened.Open(archivePath, CPackageArchive::Mode::readWrite);
+    const auto openExisting = [&] { return opened.Open(archivePath, CPackageArchive::Mode::readWrite); };
+    if (openExisting() && !opened.IsForeign()) {
+        return true;
     }
+    const bool isForeign = opened.IsForeign();
+    opened.Close(false);
     const auto lock = manager.LockStore();
-    const auto mode =
-        Files().FindFirstFile(archivePath) ? CPackageArchive::Mode::readWrite : CPackageArchive::Mode::create;
-    return lock && opened.Open(archivePath, mode);
+    if (!lock) {
+        return false;
+    }
+    const bool othersMadeIt = !isForeign && Files().FindFirstFile(archivePath);
+    return othersMadeIt ? openExisting() : opened.Open(archivePath, CPackageArchive::Mode::create);
 }
 
 bool CThumbnailStore::SetTexts(const std::string& path, const std::string& entryName,
