@@ -9,6 +9,19 @@ target_compile_options(kelvo_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
                        $<$<BOOL:${KELVO_WERROR}>:-Werror>)
 target_include_directories(kelvo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
+# Headers without a source file of their own become a set that lint.headers compiles, each alone. The others
+# stand first in their source file, which shows the same.
+function(kelvo_lone_headers target scope)
+  foreach(header IN LISTS ARGN)
+    string(REGEX REPLACE "h$" "cpp" source ${header})
+    if(NOT EXISTS ${source})
+      list(APPEND lone ${header})
+    endif()
+  endforeach()
+  target_sources(${target} ${scope} FILE_SET HEADERS BASE_DIRS ${kelvoSource} FILES ${lone})
+  set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+endfunction()
+
 # kelvo_module(NAME [DEPENDS module...] [LIBRARIES target...])
 #
 # Makes the static library kelvo_NAME from every source file of the current folder (not of its sub-folders).
@@ -18,9 +31,7 @@ function(kelvo_module name)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   file(GLOB headers CONFIGURE_DEPENDS *.h)
   add_library(kelvo_${name} STATIC ${sources})
-  # As a set, the headers can be asked to compile alone; lint.headers does.
-  target_sources(kelvo_${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${kelvoSource} FILES ${headers})
-  set_target_properties(kelvo_${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  kelvo_lone_headers(kelvo_${name} PUBLIC ${headers})
   list(TRANSFORM arg_DEPENDS PREPEND kelvo_)
   target_link_libraries(kelvo_${name} PUBLIC kelvo_options ${arg_DEPENDS} ${arg_LIBRARIES})
 endfunction()

@@ -15,7 +15,10 @@
 namespace
 {
 
-[[gnu::constructor]] void LeaveChildrenAlone() { unsetenv("LD_PRELOAD"); }
+[[gnu::constructor]] void LeaveChildrenAlone()
+{
+    unsetenv("LD_PRELOAD");
+}
 
 int NextBind(int socket, const void* address, socklen_t length)
 {

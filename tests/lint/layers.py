@@ -5,6 +5,8 @@
 
 usage: layers.py SRC
 
+A source file includes its own header first, so that each header is seen to compile alone.
+
 The logic folders may also include neither Qt nor headers of the operating system: what they ask of it goes
 through platform/. A folder that ARROWS does not name is a finding too, so that none slips in unseen.
 """
@@ -60,9 +62,16 @@ def findings(src):
         for file in sorted((src / folder).rglob("*")):
             if file.suffix not in {".h", ".cpp", ".hpp", ".c", ".cc", ".inc"}:
                 continue
+            own = file.with_suffix(".h")
+            first = str(own.relative_to(src)) if file.suffix == ".cpp" and own.exists() else None
             for number, line in enumerate(file.read_text("utf-8", "replace").splitlines(), 1):
                 include = INCLUDE.match(line)
-                why = include and complaint(folder, include[2], ARROWS.keys(), file.name == "main.cpp")
+                if not include:
+                    continue
+                why = complaint(folder, include[2], ARROWS.keys(), file.name == "main.cpp")
+                if first and include[2] != first:
+                    why = f"{first} comes first"
+                first = None
                 if why:
                     yield f"{file}:{number}: {why}: {line.strip()}"
 

@@ -28,6 +28,8 @@ CASES = [  # file, include line, whether it is forbidden
     ("suite/a.cpp", '#include "app/start.h"', True),
     ("suite/b.cpp", "#include <dlfcn.h>", False),
     ("extra/a.cpp", "", True),
+    ("app/own.cpp", '#include "app/own.h"', False),
+    ("app/own.cpp", '#include "app/other.h"', True),
 ]
 
 
@@ -38,6 +40,8 @@ def main():
             path = pathlib.Path(folder, file)
             path.parent.mkdir(parents=True)
             path.write_text(f"// first line\n{line}\n")
+            if path.name == "own.cpp":
+                path.with_suffix(".h").touch()
 
             found = list(layers.findings(pathlib.Path(folder)))
 
