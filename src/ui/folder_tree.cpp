@@ -45,6 +45,8 @@ CFolderTree::CFolderTree(std::vector<app::Place> places, const QString& name, QW
     viewport()->setBackgroundRole(QPalette::Window);
     connect(this, &QTreeView::expanded, &folders, &CFolderTreeModel::Read);
     setModel(&folders);
+    // What is read above a folder just selected must not push it out of sight.
+    connect(&folders, &CFolderTreeModel::ReadingEnded, this, [this] { scrollTo(currentIndex()); });
 }
 
 std::string CFolderTree::Folder() const

@@ -186,6 +186,7 @@ void CFolderTreeModel::ReadPiece()
 {
     if (reading.empty()) {
         timer.stop();
+        Q_EMIT ReadingEnded();
         return;
     }
     Node* node = reading.front();

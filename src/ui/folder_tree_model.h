@@ -43,6 +43,9 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+Q_SIGNALS:
+    void ReadingEnded();
+
 private:
     struct Node;
     Node* NodeOf(const QModelIndex& index) const;

@@ -24,6 +24,7 @@ namespace
 
 // The accent as the drawings have it.
 constexpr const char* kDrawnAccent = "#2f7de1";
+constexpr int kLargestBoldIcon = 24;
 
 class CThemedIconEngine : public QIconEngine
 {
@@ -64,6 +65,10 @@ QPixmap Render(const QString& name, int side, const QColor& colour, qreal pixelR
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", colour.name().toLatin1());
     drawing.replace(kDrawnAccent, CTheme::Colours().accent.name().toLatin1());
+    // The strokes are drawn for small sizes; a large drawing looks right with finer ones.
+    if (side > kLargestBoldIcon)
+        drawing.replace("stroke-width=\"1.5\"",
+                        side > 2 * kLargestBoldIcon ? "stroke-width=\"0.7\"" : "stroke-width=\"1\"");
     QSvgRenderer renderer(drawing);
     QPainter painter(&picture);
     renderer.render(&painter, QRectF(0, 0, side, side));

@@ -22,9 +22,10 @@ constexpr std::array kSides = {80, 120, 180};
 
 QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent)
 {
+    action->setIcon(ThemedIcon(drawing));
+    action->setIconVisibleInMenu(false);
     auto* button = new QToolButton(parent);
     button->setDefaultAction(action);
-    button->setIcon(ThemedIcon(drawing));
     button->setIconSize({16, 16});
     button->setFixedSize(8 * kGrid, 8 * kGrid);
     button->setAutoRaise(true);

@@ -47,10 +47,19 @@ void DrawFocus(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
+// A scroll bar stands on the ground of what it scrolls.
+QColor GroundOf(const QWidget* scrollBar)
+{
+    for (const QWidget* above = scrollBar; above; above = above->parentWidget()) {
+        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(above))
+            return area->palette().color(area->viewport()->backgroundRole());
+    }
+    return CTheme::Colours().window;
+}
+
 void DrawScrollBar(const QStyleOptionSlider& option, const QRect& slider, QPainter& painter)
 {
     const ThemeColours& colours = CTheme::Colours();
-    painter.fillRect(option.rect, colours.view);
     if (option.maximum <= option.minimum)
         return;
     QColor handle = colours.dimText;
@@ -60,6 +69,46 @@ void DrawScrollBar(const QStyleOptionSlider& option, const QRect& slider, QPaint
     handle.setAlphaF(active ? 0.8F : 0.4F);
     const QRectF box = QRectF(slider).adjusted(3, 3, -3, -3);
     FillRounded(painter, box, handle, std::min(box.width(), box.height()) / 2);
+}
+
+void DrawSlider(const QStyleOptionSlider& option, const QRect& handle, QPainter& painter)
+{
+    const ThemeColours& colours = CTheme::Colours();
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const QColor accent = enabled ? colours.accent : colours.line;
+    QRectF groove(option.rect.left() + kGrid, option.rect.center().y() - 1, option.rect.width() - 2 * kGrid,
+                  3);
+    FillRounded(painter, groove, colours.line, 1.5);
+    groove.setRight(handle.center().x());
+    FillRounded(painter, groove, accent, 1.5);
+    QRectF knob(0, 0, 3 * kGrid, 3 * kGrid);
+    knob.moveCenter(QRectF(handle).center());
+    FillRounded(painter, knob, accent, knob.width() / 2);
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(accent);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(knob.adjusted(-2.5, -2.5, 2.5, 2.5));
+    }
+}
+
+void DrawToolButton(const QStyleOption& option, QPainter& painter)
+{
+    const ThemeColours& colours = CTheme::Colours();
+    const bool down = option.state.testFlag(QStyle::State_On) || option.state.testFlag(QStyle::State_Sunken);
+    const bool hovered =
+        option.state.testFlag(QStyle::State_MouseOver) && option.state.testFlag(QStyle::State_Enabled);
+    if (down || hovered)
+        FillRounded(painter, option.rect, down ? colours.selection : colours.hover, kCornerRadius);
+}
+
+void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter)
+{
+    const ThemeColours& colours = CTheme::Colours();
+    if (option.state.testFlag(QStyle::State_Selected))
+        FillRounded(painter, option.rect.adjusted(0, 1, 0, -1), colours.selection, kGrid);
+    painter.setPen(option.state.testFlag(QStyle::State_Enabled) ? colours.text : colours.dimText);
+    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, option.text);
 }
 
 void DrawHeaderSection(const QStyleOption& option, QPainter& painter)
@@ -92,6 +141,8 @@ void CStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
     if (element == PE_PanelItemViewItem && item)
         return DrawRow(*item, *painter);
+    if (element == PE_PanelButtonTool)
+        return DrawToolButton(*option, *painter);
     if (element == PE_PanelItemViewRow)
         return;
     if (element == PE_FrameFocusRect && qobject_cast<const QAbstractItemView*>(widget))
@@ -105,8 +156,12 @@ void CStyle::drawComplexControl(ComplexControl control, const QStyleOptionComple
                                 const QWidget* widget) const
 {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control == CC_ScrollBar && slider)
+    if (control == CC_ScrollBar && slider) {
+        painter->fillRect(option->rect, GroundOf(widget));
         return DrawScrollBar(*slider, subControlRect(control, option, SC_ScrollBarSlider, widget), *painter);
+    }
+    if (control == CC_Slider && slider)
+        return DrawSlider(*slider, subControlRect(control, option, SC_SliderHandle, widget), *painter);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -115,10 +170,13 @@ void CStyle::drawControl(ControlElement element, const QStyleOption* option, QPa
 {
     if (element == CE_HeaderSection || element == CE_HeaderEmptyArea)
         return DrawHeaderSection(*option, *painter);
-    if (element == CE_Splitter) {
-        painter->fillRect(option->rect, CTheme::Colours().line);
+    if (element == CE_Splitter)
+        return painter->fillRect(option->rect, CTheme::Colours().line);
+    if (element == CE_MenuBarEmptyArea)
         return;
-    }
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuBarItem && item)
+        return DrawMenuBarItem(*item, *painter);
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

@@ -41,7 +41,8 @@ ThemeColours Dark()
 
 QPalette PaletteOf(const ThemeColours& colours)
 {
-    QPalette palette(colours.text, colours.window);
+    // Every shade that the style draws with follows from these two.
+    QPalette palette(colours.window, colours.window);
     palette.setColor(QPalette::Window, colours.window);
     palette.setColor(QPalette::WindowText, colours.text);
     palette.setColor(QPalette::Base, colours.view);
