@@ -69,7 +69,7 @@ QSize CItemPainter::CellSize(int side, const QFontMetrics& metrics)
     return {side + 2 * kPadding, kPadding + side + kGrid + kNameLines * metrics.lineSpacing() + kGrid};
 }
 
-QString CItemPainter::IconName(const browser::MediaItem& item)
+QString CItemPainter::IconName(const browser::MediaItem& item, IconUse use)
 {
     if (item.isFolder)
         return QStringLiteral("folder");
@@ -78,7 +78,7 @@ QString CItemPainter::IconName(const browser::MediaItem& item)
     if (item.types & browser::kTypeVideo)
         return QStringLiteral("video");
     if (item.types & (browser::kTypePicture | browser::kTypeHandsetImage))
-        return QStringLiteral("picture-placeholder");
+        return use == IconUse::kind ? QStringLiteral("photo") : QStringLiteral("picture-placeholder");
     if (item.types & browser::kTypeSound)
         return QStringLiteral("sound");
     return QStringLiteral("file");
@@ -153,8 +153,8 @@ void CItemPainter::DrawIcon(QPainter& painter, const browser::MediaItem& item, c
     const int side = box.width() * (item.isFolder ? 5 : 3) / 8;
     const QRect place(box.left() + (box.width() - side) / 2, box.top() + (box.height() - side) / 2, side,
                       side);
-    painter.drawPixmap(place,
-                       IconPixmap(IconName(item), side, colour, painter.device()->devicePixelRatioF()));
+    painter.drawPixmap(place, IconPixmap(IconName(item, IconUse::thumbnail), side, colour,
+                                         painter.device()->devicePixelRatioF()));
 }
 
 void CItemPainter::DrawName(QPainter& painter, const QString& name, const QRect& box)

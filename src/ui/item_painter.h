@@ -20,6 +20,9 @@ struct CellLook {
     bool hovered = false;
 };
 
+// What an icon stands for: a thumbnail that is not there, or the kind of file.
+enum class IconUse { thumbnail, kind };
+
 class CItemPainter
 {
 public:
@@ -27,8 +30,7 @@ public:
     // `side`: the edge of the square that pictures are fitted into.
     static QSize CellSize(int side, const QFontMetrics& metrics);
     void Draw(QPainter& painter, const browser::MediaItem& item, const CellLook& look);
-    // The drawing that stands for a file until, or instead of, its thumbnail.
-    static QString IconName(const browser::MediaItem& item);
+    static QString IconName(const browser::MediaItem& item, IconUse use);
 
 private:
     // A picture at the size in which it is drawn, with what it was made from, so that the address stays its

@@ -73,7 +73,7 @@ QVariant CMediaListModel::data(const QModelIndex& index, int role) const
         return {};
     case Qt::DecorationRole:
         if (columns == Columns::all && index.column() == nameColumn)
-            return ThemedIcon(CItemPainter::IconName(list.Item(row)));
+            return ThemedIcon(CItemPainter::IconName(list.Item(row), IconUse::kind));
         return {};
     default:
         return {};

@@ -145,7 +145,8 @@ void CStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
         return DrawToolButton(*option, *painter);
     if (element == PE_PanelItemViewRow)
         return;
-    if (element == PE_FrameFocusRect && qobject_cast<const QAbstractItemView*>(widget))
+    // A tree draws the focus of a whole row without naming itself.
+    if (element == PE_FrameFocusRect && (!widget || qobject_cast<const QAbstractItemView*>(widget)))
         return DrawFocus(*option, *painter);
     if (element == PE_FrameStatusBarItem || element == PE_PanelMenuBar)
         return;
@@ -177,6 +178,12 @@ void CStyle::drawControl(ControlElement element, const QStyleOption* option, QPa
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (element == CE_MenuBarItem && item)
         return DrawMenuBarItem(*item, *painter);
+    if (element == CE_MenuItem && item && item->state.testFlag(State_Selected)) {
+        FillRounded(*painter, item->rect.adjusted(kGrid, 0, -kGrid, 0), CTheme::Colours().selection, kGrid);
+        QStyleOptionMenuItem plain = *item;
+        plain.state.setFlag(State_Selected, false);
+        return QProxyStyle::drawControl(element, &plain, painter, widget);
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

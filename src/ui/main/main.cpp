@@ -25,6 +25,9 @@
 namespace
 {
 
+// The window when it is not maximised.
+constexpr QSize kNormalSize(1120, 720);
+
 // What the window needs around it, in the order in which it is made.
 struct Program {
     app::CDataFolders dataFolders;
@@ -64,6 +67,7 @@ int RunWindow(Program& program)
     ui::CTheme theme;
     ui::CMainFrame frame(program.application, program.dataFolders);
     frame.setWindowIcon(ui::ThemedIcon(QStringLiteral("kelvo")));
+    frame.resize(kNormalSize);
     frame.showMaximized();
     OpenFirstFolder(frame, program.commandLine);
     TellProblems(frame, program.dataFolders);
