@@ -9,27 +9,21 @@ namespace suite
 namespace
 {
 
-constexpr unsigned kLastPlace = 63;
-// Added to the terms passed when the block's end was among the symbols.
-constexpr unsigned kEndOfBlock = 256;
+constexpr unsigned kZeroRun = 0xF0;  // sixteen zeros
+constexpr int kMostDcBits = 15;
 // Stands for the terms passed where not even one symbol is known: more than a block has.
-constexpr unsigned kUnknown = 128;
-constexpr unsigned kZeroRun = 0xF0;
-
-// How many terms an AC symbol stands for: the zeros before a value and the value, or sixteen zeros.
-constexpr unsigned TermsOf(unsigned symbol)
-{
-    return (symbol >> 4) + 1;
-}
+constexpr unsigned kNoTerms = 128;
 
 constexpr unsigned ValueBitsOf(unsigned symbol)
 {
     return symbol & 15;
 }
 
-constexpr bool IsEndOfBlock(unsigned symbol)
+// The value that `bits`, `length` of them, stand for: the lower half of their range is negative.
+constexpr int ValueOf(unsigned bits, int length)
 {
-    return ValueBitsOf(symbol) == 0 && symbol != kZeroRun;
+    const int value = static_cast<int>(bits);
+    return length > 0 && value >> (length - 1) == 0 ? value - (1 << length) + 1 : value;
 }
 
 }  // namespace
@@ -58,17 +52,56 @@ bool CHuffmanTable::Build(const JHUFF_TBL& table)
     return true;
 }
 
-int CHuffmanTable::LongSymbol(BitWindow& window) const
+CHuffmanTable::Step CHuffmanTable::Symbol(BitWindow window) const
 {
+    const unsigned entry = first[window.Peek(kPeek)];
+    if (entry != 0) {
+        window.Drop(static_cast<int>(entry & kLengthMask));
+        return {window, static_cast<int>(entry >> kLengthBits)};
+    }
     for (int length = kPeek + 1; length <= 16; ++length) {
         const int code = static_cast<int>(window.Peek(length));
         // Codes of a length follow on one another, and all that are smaller begin a shorter code.
         if (code < codeEnd[length]) {
             window.Drop(length);
-            return values[static_cast<unsigned>(code + valueStart[length]) & 255];
+            return {window, values[static_cast<unsigned>(code + valueStart[length]) & 255]};
         }
     }
-    return -1;
+    return {window, -1};
+}
+
+bool CDcTable::Build(const JHUFF_TBL& table)
+{
+    if (!CHuffmanTable::Build(table))
+        return false;
+    for (unsigned start = 0; start < differences.size(); ++start) {
+        const int codeLength = static_cast<int>(first[start] & kLengthMask);
+        const int length = first[start] >> kLengthBits;
+        const int unused = kPeek - codeLength - length;
+        const bool isWithin = codeLength > 0 && unused >= 0;
+        const int value = isWithin ? ValueOf(start >> unused & ((1U << length) - 1), length) : 0;
+        differences[start] = static_cast<std::int16_t>(isWithin ? value * 16 + codeLength + length : 0);
+    }
+    return true;
+}
+
+CHuffmanTable::Step CDcTable::ReadLongDifference(BitWindow window) const
+{
+    Step step = Symbol(window);
+    const int length = step.result;
+    if (length < 0 || length > kMostDcBits)
+        return {window, kUnknown};
+    if (length == 0)
+        return step;
+    step.result = ValueOf(step.window.Peek(length), length);
+    step.window.Drop(length);
+    return step;
+}
+
+// The zeros before a value and the value, or sixteen zeros, or what is left of the block.
+unsigned CAcTable::TermsOf(unsigned symbol)
+{
+    return ValueBitsOf(symbol) == 0 && symbol != kZeroRun ? kEndOfBlock : (symbol >> 4) + 1;
 }
 
 bool CAcTable::Build(const JHUFF_TBL& table)
@@ -85,56 +118,23 @@ bool CAcTable::Build(const JHUFF_TBL& table)
             if (length == 0 || bits + length > kPeek)
                 break;
             bits += length + ValueBitsOf(symbol);
-            terms += IsEndOfBlock(symbol) ? kEndOfBlock : TermsOf(symbol);
+            terms += TermsOf(symbol);
         }
-        if (bits == 0)
-            terms = kUnknown;
-        leaps[start] = static_cast<std::uint16_t>(terms << kLengthBits | bits);
+        leaps[start] = static_cast<std::uint16_t>((bits == 0 ? kNoTerms : terms) << kLeapBits | bits);
     }
     return true;
 }
 
-bool CAcTable::SkipBlock(BitWindow& window) const
-{
-    unsigned place = 0;
-    for (;;) {
-        window.Fill();
-        // What was filled holds two leaps of at most 28 bits.
-        for (int i = 0; i < 2; ++i) {
-            const unsigned leap = leaps[window.Peek(kPeek)];
-            const unsigned reached = place + (leap >> kLengthBits);
-            if (reached < kLastPlace) {
-                window.Drop(static_cast<int>(leap & kLengthMask));
-                place = reached;
-                continue;
-            }
-            if (reached == kLastPlace || (reached >= kEndOfBlock && reached < kEndOfBlock + kLastPlace)) {
-                window.Drop(static_cast<int>(leap & kLengthMask));
-                return true;
-            }
-            if (!SkipSymbol(window, place))
-                return false;
-            if (place == kLastPlace)
-                return true;
-            window.Fill();
-        }
-    }
-}
-
-// One symbol by itself: its code is long, or those behind it belong to the next block.
-bool CAcTable::SkipSymbol(BitWindow& window, unsigned& place) const
+CHuffmanTable::Step CAcTable::SkipSymbol(BitWindow window) const
 {
     window.Fill();
-    const int symbol = Symbol(window);
-    if (symbol < 0)
-        return false;
-    if (IsEndOfBlock(static_cast<unsigned>(symbol))) {
-        place = kLastPlace;
-        return true;
-    }
-    window.Drop(static_cast<int>(ValueBitsOf(static_cast<unsigned>(symbol))));
-    place += TermsOf(static_cast<unsigned>(symbol));
-    return place <= kLastPlace;
+    Step step = Symbol(window);
+    if (step.result < 0)
+        return step;
+    const unsigned symbol = static_cast<unsigned>(step.result);
+    step.window.Drop(static_cast<int>(ValueBitsOf(symbol)));
+    step.result = static_cast<int>(TermsOf(symbol));
+    return step;
 }
 
 }  // namespace suite

@@ -42,7 +42,7 @@ bool IsServed(const jpeg_decompress_struct& info)
 
 // One component of the picture while the walk goes along a row of units (MCUs).
 struct Component {
-    const CHuffmanTable* dc = nullptr;
+    const CDcTable* dc = nullptr;
     const CAcTable* ac = nullptr;
     int across = 1;  // blocks of a unit
     int down = 1;
@@ -55,17 +55,10 @@ struct Component {
 
 bool Component::ReadBlock(BitWindow& window, std::uint8_t& mean)
 {
-    constexpr int kMostBits = 15;
-    window.Fill();
-    const int length = dc->Symbol(window);
-    if (length < 0 || length > kMostBits)
+    int difference = 0;
+    if (!dc->ReadDifference(window, difference))
         return false;
-    if (length > 0) {
-        const std::uint32_t value = window.Peek(length);
-        window.Drop(length);
-        const bool isPositive = value >> (length - 1) != 0;
-        prediction += isPositive ? value : value - (1U << length) + 1;
-    }
+    prediction += static_cast<std::uint32_t>(difference);
     const int term = static_cast<std::int16_t>(prediction) * quantum;
     mean = static_cast<std::uint8_t>(std::clamp(((term + 4) >> 3) + 128, 0, 255));
     return ac->SkipBlock(window);
@@ -115,7 +108,7 @@ private:
 
     const jpeg_decompress_struct& info;
     CEntropyBytes bytes;
-    CTableSet<CHuffmanTable> dcTables;
+    CTableSet<CDcTable> dcTables;
     CTableSet<CAcTable> acTables;
     Component components[kMostComponents];
     int unitsAcross = 0;
