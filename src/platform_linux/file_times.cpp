@@ -139,10 +139,11 @@ bool WriteCreationTime(const std::string& path, platform::FileTime time)
 
 void KeepCreationTime(const std::string& from, int to)
 {
+    const char* attribute = AttributeOf(from);
     char bytes[24];
-    const ssize_t length = getxattr(Native(from), kOwnAttribute, bytes, sizeof bytes);
+    const ssize_t length = getxattr(Native(from), attribute, bytes, sizeof bytes);
     if (length > 0)
-        (void)fsetxattr(to, kOwnAttribute, bytes, static_cast<std::size_t>(length), 0);
+        (void)fsetxattr(to, attribute, bytes, static_cast<std::size_t>(length), 0);
 }
 
 }  // namespace platform_linux

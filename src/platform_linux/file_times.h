@@ -24,7 +24,7 @@ timespec ToTimeSpec(platform::FileTime time);
 // One statx, and for regular files and folders one read of an attribute.
 std::optional<platform::FileFacts> ReadFacts(const std::string& path);
 bool WriteCreationTime(const std::string& path, platform::FileTime time);
-// Gives the open file `to` the creation time recorded in the attribute of `from`, if it has one.
+// Gives the open file `to`, on the same file system, the creation time recorded for `from`, if there is one.
 void KeepCreationTime(const std::string& from, int to);
 
 }  // namespace platform_linux

@@ -24,10 +24,10 @@ platform::FolderEntry Describe(int folder, const dirent& found)
     struct stat facts {
     };
     if (type == DT_UNKNOWN && fstatat(folder, found.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0)
-        type = IFTODT(facts.st_mode);
+        type = static_cast<unsigned char>(IFTODT(facts.st_mode));
     entry.isLink = type == DT_LNK;
     if (entry.isLink && fstatat(folder, found.d_name, &facts, 0) == 0)
-        type = IFTODT(facts.st_mode);
+        type = static_cast<unsigned char>(IFTODT(facts.st_mode));
     entry.isFolder = type == DT_DIR;
     entry.isRegular = type == DT_REG;
     return entry;
