@@ -50,16 +50,20 @@ void ConvertCmykRow(std::uint8_t* row, unsigned width, bool storesLight)
     }
 }
 
-// Takes in what there is of a file of several scans, and begins to put out the sum of those that are whole or
-// broke off among their pixels. False when not even one can be used.
-bool ReadScans(CJpegInput& input)
+// Takes in all of a file of several scans and begins to put out their sum. `wholeScans` becomes the length of
+// the file up to the end of the last scan that is whole.
+bool ReadScans(CJpegInput& input, std::uint64_t& wholeScans)
 {
-    input.Guarded([](jpeg_decompress_struct& info) {
-        while (jpeg_consume_input(&info) != JPEG_REACHED_EOI)
-            ;
+    return input.Guarded([&input, &wholeScans](jpeg_decompress_struct& info) {
+        constexpr int kMarkerLength = 2;
+        int state = JPEG_SUSPENDED;
+        while (state != JPEG_REACHED_EOI) {
+            state = jpeg_consume_input(&info);
+            if (state == JPEG_SCAN_COMPLETED)
+                wholeScans = input.Position() - kMarkerLength;
+        }
+        jpeg_start_output(&info, info.input_scan_number);
     });
-    return input.Guarded(
-        [](jpeg_decompress_struct& info) { jpeg_start_output(&info, info.input_scan_number); });
 }
 
 bool ReadHeader(CJpegInput& input, platform::Extent stored)
@@ -71,7 +75,7 @@ bool ReadHeader(CJpegInput& input, platform::Extent stored)
 }
 
 // Starts decoding at the scale for `target`.
-bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target)
+bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target, std::uint64_t& wholeScans)
 {
     jpeg_decompress_struct& info = input.info;
     info.scale_num = 1;
@@ -81,7 +85,7 @@ bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target)
     info.do_fancy_upsampling = target == stored ? TRUE : FALSE;
     info.buffered_image = jpeg_has_multiple_scans(&info);
     return input.Guarded([](jpeg_decompress_struct& started) { jpeg_start_decompress(&started); }) &&
-           (info.buffered_image == FALSE || ReadScans(input));
+           (info.buffered_image == FALSE || ReadScans(input, wholeScans));
 }
 
 void ReadRows(CJpegInput& input, std::vector<std::uint8_t>& row, CAreaScaler& scaler)
@@ -104,19 +108,11 @@ void ReadRows(CJpegInput& input, std::vector<std::uint8_t>& row, CAreaScaler& sc
     });
 }
 
-}  // namespace
+using Pixels = std::optional<std::vector<std::uint8_t>>;
 
-std::optional<std::vector<std::uint8_t>> DecodeJpeg(const CInputFile& file, platform::Extent stored,
-                                                    platform::Extent target)
+Pixels Decode(CJpegInput& input, platform::Extent stored, platform::Extent target, std::uint64_t& wholeScans)
 {
-    CJpegInput input(file);
-    if (!ReadHeader(input, stored))
-        return std::nullopt;
-    if (SmallestScale(stored, target) == 8) {
-        if (auto pixels = WalkDcTerms(file, input.Position(), input.info, target))
-            return pixels;
-    }
-    if (!Start(input, stored, target))
+    if (!Start(input, stored, target, wholeScans))
         return std::nullopt;
     const platform::Extent scaled = {static_cast<int>(input.info.output_width),
                                      static_cast<int>(input.info.output_height)};
@@ -129,6 +125,28 @@ std::optional<std::vector<std::uint8_t>> DecodeJpeg(const CInputFile& file, plat
     while (scaler.RowsTaken() < scaled.height)
         scaler.AddRow(row.data());
     return scaler.Pixels();
+}
+
+}  // namespace
+
+Pixels DecodeJpeg(const CInputFile& file, platform::Extent stored, platform::Extent target)
+{
+    CJpegInput input(file);
+    if (!ReadHeader(input, stored))
+        return std::nullopt;
+    if (SmallestScale(stored, target) == 8) {
+        if (auto pixels = WalkDcTerms(file, input.Position(), input.info, target))
+            return pixels;
+    }
+    std::uint64_t wholeScans = 0;
+    if (auto pixels = Decode(input, stored, target, wholeScans))
+        return pixels;
+    if (wholeScans == 0)
+        return std::nullopt;
+    // The file breaks off between scans. libjpeg must not be asked again after an error: begin anew with the
+    // part that is whole.
+    CJpegInput part(file, wholeScans);
+    return ReadHeader(part, stored) ? Decode(part, stored, target, wholeScans) : std::nullopt;
 }
 
 }  // namespace suite

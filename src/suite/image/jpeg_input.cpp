@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "suite/image/jpeg_input.h"
 
+#include <algorithm>
 #include <jerror.h>
-#include <span>
 
 namespace suite
 {
@@ -22,7 +22,7 @@ bool IsRestartMarker(int marker)
 
 }  // namespace
 
-CJpegInput::CJpegInput(const CInputFile& read) : file(read)
+CJpegInput::CJpegInput(const CInputFile& read, std::uint64_t length) : file(read), end(length)
 {
     info.err = jpeg_std_error(&errors);
     info.client_data = this;
@@ -53,7 +53,14 @@ bool CJpegInput::HasMore(std::size_t length) const
     std::array<std::uint8_t, 16> rest;
     const std::size_t asked = length < rest.size() ? length : rest.size();
     return source.bytes_in_buffer >= asked ||
-           source.bytes_in_buffer + file.ReadAt(offset, std::span(rest).first(asked)) >= asked;
+           source.bytes_in_buffer + Read(std::span(rest).first(asked)) >= asked;
+}
+
+std::size_t CJpegInput::Read(std::span<std::uint8_t> bytes) const
+{
+    const std::uint64_t left = end > offset ? end - offset : 0;
+    return file.ReadAt(offset,
+                       bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>(left, bytes.size()))));
 }
 
 void CJpegInput::OnError(j_common_ptr common)
@@ -80,7 +87,7 @@ void CJpegInput::OnProgress(j_common_ptr common)
 boolean CJpegInput::Fill(j_decompress_ptr decoder)
 {
     CJpegInput& input = *static_cast<CJpegInput*>(decoder->client_data);
-    const std::size_t got = input.file.ReadAt(input.offset, input.buffer);
+    const std::size_t got = input.Read(input.buffer);
     input.offset += got;
     input.source.next_input_byte = got > 0 ? input.buffer.data() : kEndOfImage.data();
     input.source.bytes_in_buffer = got > 0 ? got : kEndOfImage.size();

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <cstdio>  // jpeglib.h needs FILE and does not say so
 #include <jpeglib.h>
+#include <span>
 
 namespace suite
 {
@@ -21,7 +22,8 @@ namespace suite
 class CJpegInput
 {
 public:
-    explicit CJpegInput(const CInputFile& read);
+    // Only the file's first `length` bytes are read.
+    explicit CJpegInput(const CInputFile& read, std::uint64_t length = UINT64_MAX);
     ~CJpegInput();
     CJpegInput(const CJpegInput&) = delete;
     CJpegInput& operator=(const CJpegInput&) = delete;
@@ -51,7 +53,10 @@ private:
     static boolean Fill(j_decompress_ptr decoder);
     static void Skip(j_decompress_ptr decoder, long length);
 
+    std::size_t Read(std::span<std::uint8_t> bytes) const;
+
     const CInputFile& file;
+    std::uint64_t end;
     std::uint64_t offset = 0;  // of the byte after the buffer's last
     std::array<std::uint8_t, 65536> buffer;
     jpeg_error_mgr errors = {};
