@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 using archive::CPackageArchive;
@@ -122,6 +123,7 @@ void RemoveAndCompact(benchmark::State& state)
     for (auto _ : state) {
         state.PauseTiming();
         Folder().Fill(path, kMostMembers);
+        sync();  // what was just made is not part of what is measured
         state.ResumeTiming();
         CPackageArchive target;
         bool done = target.Open(path, Mode::readWrite);
