@@ -230,8 +230,7 @@ bool CopyRegular(const std::string& source, const std::string& target, ExistingT
     const auto replacement = CFileReplacement::Start(target, facts.st_mode & 0777, existing);
     if (!replacement || !CopyBytes(from.Get(), replacement->Get()))
         return false;
-    const timespec times[2] = {{0, UTIME_OMIT}, facts.st_mtim};
-    return (futimens(replacement->Get(), times) == 0 || Fail()) && replacement->Commit();
+    return SetModificationTime(replacement->Get(), facts.st_mtim) && replacement->Commit();
 }
 
 }  // namespace platform_linux

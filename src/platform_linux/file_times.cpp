@@ -105,6 +105,26 @@ timespec ToTimeSpec(platform::FileTime time)
     return result;
 }
 
+bool SetModificationTime(int fd, const timespec& modified)
+{
+    struct stat facts {
+    };
+    if (fstat(fd, &facts) != 0)
+        return Fail();
+    const timespec times[2] = {facts.st_atim, modified};
+    return futimens(fd, times) == 0 || Fail();
+}
+
+bool SetModificationTime(const std::string& path, const timespec& modified)
+{
+    struct stat facts {
+    };
+    if (stat(Native(path), &facts) != 0)
+        return Fail();
+    const timespec times[2] = {facts.st_atim, modified};
+    return utimensat(AT_FDCWD, Native(path), times, 0) == 0 || Fail();
+}
+
 std::optional<platform::FileFacts> ReadFacts(const std::string& path)
 {
     struct statx facts {

@@ -21,6 +21,11 @@ namespace platform_linux
 platform::FileTime ToFileTime(std::int64_t seconds, std::uint32_t nanoseconds);
 timespec ToTimeSpec(platform::FileTime time);
 
+// Sets the modification time. The access time is given along as it is: not every file system in user space
+// knows how to leave one out.
+bool SetModificationTime(int fd, const timespec& modified);
+bool SetModificationTime(const std::string& path, const timespec& modified);
+
 // One statx, and for regular files and folders one read of an attribute.
 std::optional<platform::FileFacts> ReadFacts(const std::string& path);
 bool WriteCreationTime(const std::string& path, platform::FileTime time);

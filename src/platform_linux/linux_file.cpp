@@ -4,10 +4,10 @@
 
 #include "platform_linux/failure.h"
 #include "platform_linux/file_lock.h"
+#include "platform_linux/file_times.h"
 #include "platform_linux/paths.h"
 
 #include <algorithm>
-#include <ctime>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -109,6 +109,11 @@ std::int64_t NowNanoseconds()
     return now.tv_sec * kNanosecondsPerSecond + now.tv_nsec;
 }
 
+timespec FromNanoseconds(std::int64_t since1970)
+{
+    return {since1970 / kNanosecondsPerSecond, since1970 % kNanosecondsPerSecond};
+}
+
 bool NamesDescriptor(const std::string& path, int fd)
 {
     struct stat named {
@@ -182,13 +187,6 @@ std::optional<platform::FileStamp> CLinuxFile::Stamp()
                                modified};
 }
 
-bool CLinuxFile::SetModified(std::int64_t nanoseconds)
-{
-    const timespec times[2] = {{0, UTIME_OMIT},
-                               {nanoseconds / kNanosecondsPerSecond, nanoseconds % kNanosecondsPerSecond}};
-    return futimens(handle.Get(), times) == 0 || Fail();
-}
-
 bool CLinuxFile::MarkChanged()
 {
     const std::int64_t before = latestModified;
@@ -198,7 +196,8 @@ bool CLinuxFile::MarkChanged()
     // A file system may round times down to its own steps (100 ns, 1 us, 1 s, 2 s): take the first step that
     // it can tell from the time before.
     for (const std::int64_t step : {1LL, 100LL, 1'000LL, 1'000'000LL, 1'000'000'000LL, 2'000'000'000LL}) {
-        if (!SetModified(std::max(NowNanoseconds(), floor + step)))
+        const std::int64_t wanted = std::max(NowNanoseconds(), floor + step);
+        if (!SetModificationTime(handle.Get(), FromNanoseconds(wanted)))
             return false;
         const std::optional<platform::FileStamp> now = Stamp();
         if (now && now->modifiedNanoseconds > floor)

@@ -6,6 +6,7 @@
 #include "platform/file_system.h"
 #include "platform_linux/handle.h"
 
+#include <ctime>
 #include <sys/stat.h>
 
 namespace platform_linux
@@ -35,14 +36,13 @@ public:
     void WillNeed(std::uint64_t offset, std::uint64_t length) override;
 
 private:
-    bool SetModified(std::int64_t nanoseconds);
-
     CHandle handle;
     std::int64_t latestModified = 0;  // nanoseconds since 1970; the latest seen of this file
 };
 
 std::int64_t ModifiedNanoseconds(const struct stat& facts);
 std::int64_t NowNanoseconds();
+timespec FromNanoseconds(std::int64_t since1970);
 // Whether `path` names the file open as `fd`.
 bool NamesDescriptor(const std::string& path, int fd);
 

@@ -97,10 +97,7 @@ bool CLinuxFileSystem::SetFileTime(const std::string& path, platform::FileTime c
 {
     if (creation != 0 && !WriteCreationTime(path, creation))
         return false;
-    if (lastWrite == 0)
-        return true;
-    const timespec times[2] = {{0, UTIME_OMIT}, ToTimeSpec(lastWrite)};
-    return utimensat(AT_FDCWD, Native(path), times, 0) == 0 || Fail();
+    return lastWrite == 0 || SetModificationTime(path, ToTimeSpec(lastWrite));
 }
 
 std::unique_ptr<platform::CLock> CLinuxFileSystem::LockFile(const std::string& path, int patienceMilliseconds)
@@ -144,9 +141,7 @@ bool ReplaceBytes(const std::string& path, std::span<const std::byte> bytes)
         return false;
     // The kernel's own stamp moves in steps of milliseconds; readers that keep a parsed file tell two states
     // by it.
-    const std::int64_t now = NowNanoseconds();
-    const timespec times[2] = {{0, UTIME_OMIT}, {now / 1'000'000'000, now % 1'000'000'000}};
-    (void)futimens(replacement->Get(), times);
+    (void)SetModificationTime(replacement->Get(), FromNanoseconds(NowNanoseconds()));
     return replacement->Commit();
 }
 

@@ -29,6 +29,13 @@ CHandle OpenLock(const std::string& folder, int more)
     return CHandle(open(Join(folder, kLockName).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | more, 0600));
 }
 
+// Ends with the lock's file closed: some file systems keep an open file's folder from going.
+bool IsAlive(const std::string& folder)
+{
+    const CHandle lock = OpenLock(folder, 0);
+    return lock.IsOpen() && !LockDescriptor(lock.Get(), platform::LockKind::exclusive, 0);
+}
+
 // Removes the folders whose processes are gone. Making a folder and sweeping exclude each other by the lock
 // of `base`, so that none is seen between its making and its locking.
 void Sweep(const std::string& base)
@@ -37,8 +44,7 @@ void Sweep(const std::string& base)
     while (const dirent* entry = folders ? NextEntry(folders.get()) : nullptr) {
         if (!std::string_view(entry->d_name).starts_with(kPrefix))
             continue;
-        const CHandle lock = OpenLock(Join(base, entry->d_name), 0);
-        if (!lock.IsOpen() || LockDescriptor(lock.Get(), platform::LockKind::exclusive, 0))
+        if (!IsAlive(Join(base, entry->d_name)))
             (void)RemoveTree(dirfd(folders.get()), entry->d_name);
     }
 }
@@ -72,6 +78,7 @@ std::string CTempFolder::Path()
 
 CTempFolder::~CTempFolder()
 {
+    alive = CHandle();
     if (!path.empty() && owner == getpid())
         (void)RemoveTree(AT_FDCWD, path);
 }
