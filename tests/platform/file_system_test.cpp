@@ -182,7 +182,8 @@ TYPED_TEST(FileSystem, CopiesBytesAndTimeOverWhatWasThere)
     EXPECT_TRUE(this->files.CopyFile(source, target));
     EXPECT_FALSE(this->files.CopyFile(this->folder.Path("none"), target));
     EXPECT_FALSE(this->files.CopyFile(source, this->folder.Path("no/folder")));
-    EXPECT_FALSE(this->files.CopyFile(source, this->folder.Path()));
+    ASSERT_TRUE(this->files.CreateDirectory(this->folder.Path("sub")));
+    EXPECT_FALSE(this->files.CopyFile(source, this->folder.Path("sub")));
 
     EXPECT_EQ(ReadBytes(target), ReadBytes(source));
     EXPECT_EQ(this->files.FindFirstFile(target)->lastWriteTime, 128'000'000'000'000'000);

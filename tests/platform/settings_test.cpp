@@ -103,8 +103,11 @@ TEST_F(Profiles, WritesBesideTheUsersSettingsWhereTheProgramFolderIsShut)
     const std::string skin = folder.Make("program/skin/config.ini", "[s]\na=1\n");
     const std::string outside = folder.Make("outside.ini", "[s]\na=1\n");
     const std::string climbing = folder.Path("program/skin/../../outside.ini");
+    const std::string guarded[] = {file, skin, outside, folder.Path("program"), folder.Path("program/skin")};
     std::filesystem::create_directory(folder.Path("user"));
     ASSERT_EQ(chmod(folder.Path().c_str(), 0755) | chmod(folder.Path("user").c_str(), 0777), 0);
+    for (const std::string& path : guarded)
+        ASSERT_EQ(chmod(path.c_str(), 0555), 0);
 
     const int result = tests::RunAsPlainUser([&] {
         const bool first = profiles.WritePrivateProfileString("S", "A", "new", file);
@@ -115,6 +118,8 @@ TEST_F(Profiles, WritesBesideTheUsersSettingsWhereTheProgramFolderIsShut)
                              !profiles.WritePrivateProfileString("s", "a", "new", climbing);
         return (first && second && deep && made ? 0 : 1) + (refused ? 0 : 2);
     });
+    for (const std::string& path : guarded)
+        ASSERT_EQ(chmod(path.c_str(), 0755), 0);
     support::WriteBytes(file, "[s]\na=1\nlater=here\n");
 
     EXPECT_EQ(result, 0);
