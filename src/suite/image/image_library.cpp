@@ -56,6 +56,8 @@ std::unique_ptr<platform::CImageSource> CSuiteImageLibrary::OpenPicture(CInputFi
         return nullptr;
     case PictureKind::jpeg:
         return CJpegSource::Open(std::move(file));
+    case PictureKind::png:
+        return png.Open(std::move(file), kind);
     default:
         return formats.Open(std::move(file), kind);
     }

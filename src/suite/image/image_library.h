@@ -31,6 +31,7 @@ public:
 private:
     std::unique_ptr<platform::CImageSource> OpenPicture(CInputFile file, PictureKind kind);
 
+    CModuleLoader png{"kelvo-png.so"};
     CModuleLoader formats{"kelvo-formats.so"};
     CModuleLoader video{"kelvo-video.so"};
 };

@@ -21,8 +21,6 @@ constexpr int kStripHeight = 16;
 const char* FormatName(PictureKind kind)
 {
     switch (kind) {
-    case PictureKind::png:
-        return "png";
     case PictureKind::bmp:
         return "bmp";
     case PictureKind::dib:

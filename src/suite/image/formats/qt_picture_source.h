@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CQtPictureSource: an opened PNG, BMP, TIFF, GIF or WebP, read by Qt's image plugins.
+// CQtPictureSource: an opened BMP, TIFF, GIF or WebP, read by Qt's image plugins.
 //
 // Needs no application object. Animations give their first frame. A picture is decoded anew by each Render,
 // half a gigabyte at most; WebP at the size asked for, the others whole.

@@ -6,6 +6,9 @@
 #include "suite/image/bitmap_tools.h"
 #include "suite/image/picture_module.h"
 
+extern "C" {
+#include <libavutil/log.h>
+}
 #include <libffmpegthumbnailer/videothumbnailerc.h>
 #include <string>
 
@@ -25,7 +28,8 @@ std::unique_ptr<platform::CImageSource> CVideoFrameSource::Open(const CInputFile
 {
     const std::unique_ptr<video_thumbnailer, Release> thumbnailer(video_thumbnailer_create());
     const std::unique_ptr<image_data, Release> image(video_thumbnailer_create_image_data());
-    video_thumbnailer_set_log_callback(thumbnailer.get(), [](ThumbnailerLogLevel, const char*) {});
+    // By itself libav prints to standard error what it finds in a broken file.
+    av_log_set_level(AV_LOG_QUIET);
     thumbnailer->thumbnail_image_type = Rgb;
     video_thumbnailer_set_size(thumbnailer.get(), 0, 0);
     // Opened through the descriptor: a name could be taken for a protocol's address.
