@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/commands.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+TEST(Commands, EveryCommandStandsOnceInAMenuOfTheTable)
+{
+    std::map<app::CommandId, int> seen;
+    for (const app::Command& command : app::Commands()) {
+        ++seen[command.id];
+        EXPECT_EQ(std::ranges::count(app::Menus(), command.menu, &app::Menu::id), 1) << command.text;
+        EXPECT_FALSE(command.text.empty());
+        EXPECT_EQ(&app::FindCommand(command.id), &command) << command.text;
+    }
+
+    EXPECT_EQ(seen.size(), static_cast<std::size_t>(app::CommandId::about) + 1);
+    for (const auto& [id, times] : seen)
+        EXPECT_EQ(times, 1) << app::FindCommand(id).text;
+}
+
+TEST(Commands, NoTwoCommandsShareAShortcut)
+{
+    std::set<std::string_view> shortcuts;
+    for (const app::Command& command : app::Commands()) {
+        if (!command.shortcut.empty()) {
+            EXPECT_TRUE(shortcuts.insert(command.shortcut).second) << command.text;
+        }
+    }
+}
