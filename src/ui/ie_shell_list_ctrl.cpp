@@ -92,11 +92,19 @@ void CIEShellListCtrl::Refresh()
         OpenFolder(list.Folder());
 }
 
+int CIEShellListCtrl::FirstVisible() const
+{
+    if (style == ViewStyle::details)
+        return details->indexAt({0, 0}).row();
+    const auto visible = thumbnails->Visible();
+    return visible ? visible->first : -1;
+}
+
 void CIEShellListCtrl::KeepState()
 {
     if (stateIsKept)
         return;
-    keeper.Capture(*View(), list);
+    keeper.Capture(*View(), list, FirstVisible());
     stateIsKept = true;
 }
 
@@ -141,7 +149,7 @@ void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
         return;
     const bool hadFocus = View()->hasFocus();
     const bool hasItems = Model().rowCount() > 0;
-    keeper.Capture(*View(), list);
+    keeper.Capture(*View(), list, FirstVisible());
     Model().Reset(false);
     style = wanted;
     Model().Reset(hasItems);

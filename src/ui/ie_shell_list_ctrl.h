@@ -79,6 +79,7 @@ protected:
 
 private:
     void WatchView(QAbstractItemView* view);
+    int FirstVisible() const;
     void KeepState();
     void OnFilled();
     void SayWhyEmpty();

@@ -51,6 +51,9 @@ QStringList NameLines(const QString& name, const QFontMetrics& metrics, const QF
 
 QImage ImageOf(const platform::BitmapHandle& bitmap)
 {
+    const auto pixels = static_cast<std::size_t>(bitmap->width) * static_cast<std::size_t>(bitmap->height);
+    if (bitmap->width <= 0 || bitmap->height <= 0 || bitmap->pixels.size() < pixels)
+        return {};
     auto* owner = new platform::BitmapHandle(bitmap);
     return QImage(
         reinterpret_cast<const uchar*>(bitmap->pixels.data()), bitmap->width, bitmap->height,
@@ -137,7 +140,7 @@ const QPixmap& CItemPainter::ScaledPicture(const platform::BitmapHandle& bitmap,
     Scaled* known = cache.object(bitmap.get());
     if (!known || known->size != pixels) {
         QImage image = ImageOf(bitmap);
-        if (image.size() != pixels)
+        if (!image.isNull() && image.size() != pixels)
             image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         known = new Scaled{bitmap, pixels, QPixmap::fromImage(image)};
         cache.insert(bitmap.get(), known, std::max(1, pixels.width() * pixels.height() * 4 / 1024));

@@ -8,23 +8,8 @@
 namespace ui
 {
 
-namespace
-{
-
-// Somewhere inside the first cell of a view.
-constexpr QPoint kFirstCell(20, 12);
-
-}  // namespace
-
-int SelectedRows(const QItemSelection& selection)
-{
-    int rows = 0;
-    for (const QItemSelectionRange& range : selection)
-        rows += range.height();
-    return rows;
-}
-
-void CSelectionKeeper::Capture(const QAbstractItemView& view, const browser::CMediaFileList& list)
+void CSelectionKeeper::Capture(const QAbstractItemView& view, const browser::CMediaFileList& list,
+                               int firstVisible)
 {
     Forget();
     const int count = list.Count();
@@ -34,10 +19,9 @@ void CSelectionKeeper::Capture(const QAbstractItemView& view, const browser::CMe
     }
     if (const int row = view.currentIndex().row(); row >= 0 && row < count)
         current = list.Item(row).name;
-    const QModelIndex first = view.indexAt(kFirstCell);
-    if (first.isValid() && first.row() < count) {
-        top = list.Item(first.row()).name;
-        topOffset = view.visualRect(first).top();
+    if (firstVisible >= 0 && firstVisible < count) {
+        top = list.Item(firstVisible).name;
+        topOffset = view.visualRect(view.model()->index(firstVisible, 0)).top();
     }
 }
 

@@ -19,8 +19,9 @@ namespace ui
 class CSelectionKeeper
 {
 public:
-    // Takes the state of `view`, which shows the items of `list`.
-    void Capture(const QAbstractItemView& view, const browser::CMediaFileList& list);
+    // Takes the state of `view`, which shows the items of `list`; `firstVisible` is the row at its top, or
+    // -1.
+    void Capture(const QAbstractItemView& view, const browser::CMediaFileList& list, int firstVisible);
     // Nothing is kept but this file, which becomes selected and current.
     void Want(const std::string& fileName);
     void Forget() { *this = {}; }
@@ -34,8 +35,5 @@ private:
     int topOffset = 0;  // where the top item's upper edge was, in pixels from the view's
     bool showCurrent = false;
 };
-
-// How many rows are selected, however many columns each has.
-int SelectedRows(const QItemSelection& selection);
 
 }  // namespace ui

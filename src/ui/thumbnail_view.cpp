@@ -34,7 +34,7 @@ CThumbnailView::CThumbnailView(const browser::CMediaFileList& mediaList, QWidget
 
 void CThumbnailView::SetThumbnailSide(int pixels)
 {
-    const QModelIndex kept = currentIndex().isValid() ? currentIndex() : indexAt({2 * kGap, 2 * kGap});
+    const QModelIndex kept = currentIndex().isValid() ? currentIndex() : FirstVisible();
     side = pixels;
     Regrid();
     if (kept.isValid())
@@ -48,6 +48,12 @@ std::optional<browser::VisibleRange> CThumbnailView::Visible() const
     if (last < first)
         return std::nullopt;
     return browser::VisibleRange{first, last};
+}
+
+QModelIndex CThumbnailView::FirstVisible() const
+{
+    const auto visible = Visible();
+    return visible ? model()->index(visible->first, 0) : QModelIndex();
 }
 
 QRect CThumbnailView::visualRect(const QModelIndex& index) const
@@ -138,7 +144,7 @@ void CThumbnailView::scrollContentsBy(int dx, int dy)
 
 void CThumbnailView::resizeEvent(QResizeEvent* event)
 {
-    const QModelIndex top = indexAt({2 * kGap, 2 * kGap});
+    const QModelIndex top = FirstVisible();
     const int columns = grid.Columns();
     QAbstractItemView::resizeEvent(event);
     Regrid();

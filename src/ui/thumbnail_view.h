@@ -58,6 +58,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QModelIndex FirstVisible() const;
     void Regrid();
     QItemSelection BandSelection(const QRect& band) const;
     QItemSelection RangeSelection(QPoint from, QPoint to) const;
