@@ -43,8 +43,13 @@ std::string PrivateRuntimeFolder()
         if (MakePrivate(folder))
             return folder;
     }
-    std::string folder = "/tmp/kelvo-" + std::to_string(geteuid());
-    return MakePrivate(folder) ? folder : std::string();
+    // In memory where that is offered: names there come and go many times a second.
+    for (const char* parent : {"/dev/shm", "/tmp"}) {
+        std::string folder = parent + ("/kelvo-" + std::to_string(geteuid()));
+        if (MakePrivate(folder))
+            return folder;
+    }
+    return {};
 }
 
 }  // namespace platform_linux

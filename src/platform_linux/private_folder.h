@@ -9,8 +9,8 @@ namespace platform_linux
 {
 
 // The folder for this user's run-time files, made when missing: $XDG_RUNTIME_DIR/kelvo where that is this
-// user's own folder, else /tmp/kelvo-UID. Empty when there is none that is ours alone, for instance because
-// somebody else made the latter first.
+// user's own folder, else kelvo-UID in /dev/shm or in /tmp. Empty when there is none that is ours alone, for
+// instance because somebody else made them first.
 std::string PrivateRuntimeFolder();
 
 }  // namespace platform_linux
