@@ -211,7 +211,7 @@ TEST_F(Shell, StartsProgramsDetachedAndSaysWhenThereIsNone)
     chmod(folder.Path("bin/xdg-open").c_str(), 0700);
     const tests::CEnvironment environment({{"PATH", folder.Path("bin") + ":" + std::getenv("PATH")}});
 
-    EXPECT_TRUE(shell.WinExec("sh -c \"ps -o sid= -p $$ > " + pipe + "\""));
+    EXPECT_TRUE(shell.WinExec("sh -c \"cut -d' ' -f6 /proc/self/stat > " + pipe + "\""));
     const pid_t session = std::atoi(ReadBytes(pipe).c_str());
     EXPECT_TRUE(shell.ShellExecute("-a \"b\""));
     const std::string opened = ReadBytes(pipe);
