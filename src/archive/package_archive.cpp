@@ -121,6 +121,7 @@ bool CPackageArchive::PrepareHeader()
     index = std::make_unique<CPackageIndex>();
     indexFits = true;
     Changed();
+    stamp = file->Stamp().value_or(platform::FileStamp());
     return true;
 }
 
@@ -135,10 +136,15 @@ bool CPackageArchive::WriteCount(std::uint32_t count)
 {
     if (index->CountInFile() == count)
         return true;
-    std::array<std::byte, 4> bytes;
-    StoreNumber(bytes.data(), count, bytes.size());
-    if (!file->WriteAt(kCountOffset, bytes))
+    const auto write = [this](std::uint32_t number) {
+        std::array<std::byte, 4> bytes;
+        StoreNumber(bytes.data(), number, bytes.size());
+        return file->WriteAt(kCountOffset, bytes);
+    };
+    if (!write(count)) {
+        write(index->CountInFile());
         return false;
+    }
     index->CountWritten(count);
     return true;
 }

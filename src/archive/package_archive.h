@@ -127,7 +127,7 @@ private:
     std::string archivePath;
     Mode mode = Mode::read;
     std::unique_ptr<CPackageIndex> index;
-    platform::FileStamp stamp;       // of the file in the state that `index` describes
+    platform::FileStamp stamp;       // of the file as it was opened
     bool indexFits = false;          // `index` describes the file as it is
     bool changed = false;            // the file, since it was opened
     std::set<std::size_t> newTexts;  // members whose texts in memory differ from the file's

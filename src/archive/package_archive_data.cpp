@@ -52,6 +52,12 @@ std::unique_ptr<platform::CFile> MakeTemporary(const std::string& folder, std::s
     return nullptr;
 }
 
+std::uint64_t LengthOf(platform::CFile& file)
+{
+    const auto facts = file.Stamp();
+    return facts ? facts->size : 0;
+}
+
 std::uint64_t MostOutput(const PackageMember& member)
 {
     return std::max(member.originalSize, kAlwaysAllowed);
@@ -102,8 +108,6 @@ bool CPackageArchive::AddFile(const std::string& source, const AddOptions& optio
     const auto input = OpenSource(source, options, member);
     if (!input || !PrepareHeader())
         return false;
-    if (input->IsStill(archivePath))
-        return Fail("an archive cannot hold itself");
     member.recordPosition = index->End();
     const bool written = WriteMember(*input, member) && WriteCount(static_cast<std::uint32_t>(Count() + 1));
     if (!written) {
@@ -125,6 +129,8 @@ bool CPackageArchive::WriteMember(platform::CFile& source, PackageMember& member
     const auto facts = source.Stamp();
     if (!facts)
         return FailAs("the file to be added cannot be read");
+    if (facts->inode == stamp.inode && facts->device == stamp.device)
+        return Fail("an archive cannot hold itself");
     CBlockWriter writer(*file, member.recordPosition, kWriteBlock);
     const std::string record = EncodeRecord(member);
     writer.Append(std::as_bytes(std::span(record)));
@@ -173,7 +179,7 @@ bool CPackageArchive::ExtractToMemory(std::size_t position, std::string& data)
     const PackageMember& member = Member(position);
     const CMemberStream::Watch watch{aborted, [this](int percent) { Progress(percent); }};
     CRangeReader reader(*file, member.dataPosition, member.dataPosition + member.storedSize);
-    CMemorySink ends(reader, stamp.size, watch, data, std::min(MostOutput(member), kMostInMemory));
+    CMemorySink ends(reader, LengthOf(*file), watch, data, std::min(MostOutput(member), kMostInMemory));
     const int result = Inflate(ends);
     Result(ResultText(result));
     if (result == 0)
@@ -201,7 +207,7 @@ bool CPackageArchive::ExtractToFolder(std::size_t position, const std::string& f
     const CMemberStream::Watch watch{aborted, [this](int percent) { Progress(percent); }};
     CRangeReader reader(*file, member.dataPosition, member.dataPosition + member.storedSize);
     CBlockWriter writer(*output, 0, kWriteBlock);
-    CFileSink ends(reader, stamp.size, watch, writer, MostOutput(member));
+    CFileSink ends(reader, LengthOf(*file), watch, writer, MostOutput(member));
     const int result = Inflate(ends);
     bool done = result == 0;
     if (result == kUserAbort)

@@ -123,9 +123,11 @@ TEST_F(DamagedArchive, StreamsThatLieFailAndLeaveNoFile)
         {"\x78\xbb\x01\x02\x03\x04zz", 5, "?"},
         {std::string(5000, '\xff'), ~0ULL, "?"},
     };
+    // Its first byte would complete the stream that lacks one.
+    const HandMade next{.name = std::string(0x15, 'b')};
     for (const Case& now : cases) {
         const HandMade lying{.name = "out", .originalSize = now.originalSize, .data = now.data};
-        WriteBytes(path, HandMadeHeader(2) + lying.Bytes() + HandMade{.name = "b"}.Bytes());
+        WriteBytes(path, HandMadeHeader(2) + lying.Bytes() + next.Bytes());
         CPackageArchive target;
         ASSERT_TRUE(target.Open(path, Mode::read));
         std::string data;
