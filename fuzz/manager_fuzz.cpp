@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes as a manager file: what is read from it survives being written, and nothing leads out of the store.
+// Any bytes as a manager file: what is read from it survives being written, and nothing leads out of the
+// store.
 #include "browser/manager_file.h"
 
 #include <algorithm>
