@@ -63,7 +63,9 @@ public:
     // Held around work on the archives that must not overlap with other processes; null when it is not to be
     // had within the patience. Not recursive: AddFolder, RemoveFolder and Save take it themselves.
     std::unique_ptr<platform::CLock> LockStore() const;
+    // How long to wait for another process that holds the store or one of its archives; 10 s unless told.
     void SetPatience(int milliseconds) { patience = milliseconds; }
+    int Patience() const { return patience; }
 
 private:
     std::string ManagerPath() const;

@@ -93,6 +93,7 @@ std::optional<StoredThumbnail> CThumbnailStore::Fetch(const std::string& path,
 {
     std::string archivePath;
     CPackageArchive opened;
+    opened.SetPatience(manager.Patience());
     if (!manager.AddFolder(std::string(FolderOf(path))) ||
         manager.GetDbPathForFile(path, &archivePath) == 0 ||
         !opened.Open(archivePath, CPackageArchive::Mode::readWrite)) {
@@ -131,6 +132,7 @@ bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitm
     options.timeStampText = dateText;
     options.memberName = entryName;
     CPackageArchive opened;
+    opened.SetPatience(manager.Patience());
     const bool kept = OpenForAdding(opened, archivePath) && opened.AddFile(temporary, options);
     opened.Close(false);
     Files().DeleteFile(temporary);
@@ -161,6 +163,7 @@ bool CThumbnailStore::SetTexts(const std::string& path, const std::string& entry
 {
     std::string archivePath;
     CPackageArchive opened;
+    opened.SetPatience(manager.Patience());
     if (manager.GetDbPathForFile(path, &archivePath) == 0 ||
         !opened.Open(archivePath, CPackageArchive::Mode::readWrite)) {
         return false;
