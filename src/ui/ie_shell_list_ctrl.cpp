@@ -149,7 +149,11 @@ void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
         return;
     const bool hadFocus = View()->hasFocus();
     const bool hasItems = Model().rowCount() > 0;
-    keeper.Capture(*View(), list, FirstVisible());
+    const int first = FirstVisible();
+    const int current = View()->currentIndex().row();
+    std::vector<std::pair<int, int>> ranges;
+    for (const QItemSelectionRange& range : View()->selectionModel()->selection())
+        ranges.emplace_back(range.top(), range.bottom());
     Model().Reset(false);
     style = wanted;
     Model().Reset(hasItems);
@@ -157,12 +161,22 @@ void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
     setFocusProxy(View());
     if (hadFocus)
         View()->setFocus();
-    keeper.Restore(*View(), list);
+    SelectRows(ranges, current);
+    View()->scrollTo(Model().index(first, 0), QAbstractItemView::PositionAtTop);
     emptyState->raise();
     if (style == ViewStyle::details)
         filler.ReadFacts();
     Q_EMIT StatusChanged();
     Q_EMIT WorkAppeared();
+}
+
+void CIEShellListCtrl::SelectRows(const std::vector<std::pair<int, int>>& ranges, int current)
+{
+    QItemSelection chosen;
+    for (const auto& [top, bottom] : ranges)
+        chosen.select(Model().index(top, 0), Model().index(bottom, Model().columnCount() - 1));
+    View()->selectionModel()->setCurrentIndex(Model().index(current, 0), QItemSelectionModel::NoUpdate);
+    View()->selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
 }
 
 void CIEShellListCtrl::SetFilter(int mode, int includeFolders)

@@ -80,6 +80,7 @@ protected:
 private:
     void WatchView(QAbstractItemView* view);
     int FirstVisible() const;
+    void SelectRows(const std::vector<std::pair<int, int>>& ranges, int current);
     void KeepState();
     void OnFilled();
     void SayWhyEmpty();

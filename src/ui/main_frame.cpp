@@ -114,9 +114,12 @@ void CMainFrame::GoTo(const std::string& folder, const std::string& selectName)
 
 void CMainFrame::GoToStart()
 {
-    std::string photos = folders.FolderPath(app::DataFolderKind::photo);
-    photos.pop_back();
-    GoTo(folders.FavouriteRoot().size() > 1 ? photos : std::string("/"));
+    std::string start = folders.FolderPath(app::DataFolderKind::photo);
+    if (folders.FavouriteRoot().size() > 1)
+        start.pop_back();
+    else
+        start = platform::Os().shell->GetFolderPath(platform::KnownFolder::home, false).value_or("/");
+    GoTo(start);
 }
 
 void CMainFrame::GoUp()

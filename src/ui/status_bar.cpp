@@ -8,6 +8,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <ranges>
+
 namespace ui
 {
 
@@ -35,6 +38,14 @@ protected:
     }
 };
 
+// Folders come first in the list.
+int FolderCount(const browser::CMediaFileList& list)
+{
+    const auto rows = std::views::iota(0, list.Count());
+    return static_cast<int>(
+        std::ranges::partition_point(rows, [&](int row) { return list.Item(row).isFolder; }) - rows.begin());
+}
+
 }  // namespace
 
 CStatusBar::CStatusBar(QWidget* parent)
@@ -59,7 +70,12 @@ void CStatusBar::ShowFiles(const CIEShellListCtrl& ctrl)
     if (ctrl.IsReading()) {
         files->setText(QStringLiteral("Reading: %1").arg(CountText(list.FilledSoFar(), one, many)));
     } else {
-        QString text = CountText(static_cast<std::size_t>(list.Count()), one, many);
+        const int folders = FolderCount(list);
+        QString text = CountText(static_cast<std::size_t>(list.Count() - folders), one, many);
+        if (folders > 0)
+            text = CountText(static_cast<std::size_t>(folders), QStringLiteral("folder"),
+                             QStringLiteral("folders")) +
+                   QStringLiteral(", ") + text;
         if (list.Count() > 0 && list.AllFactsKnown())
             text += QStringLiteral("  \u00b7  ") + SizeText(list.KnownBytes());
         files->setText(text);

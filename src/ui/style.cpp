@@ -239,6 +239,9 @@ int CStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QW
     case PM_MenuVMargin:
     case PM_MenuBarVMargin:
         return kGrid / 2;
+    case PM_FocusFrameHMargin:
+    case PM_HeaderMargin:
+        return 2 * kGrid - 2;
     case PM_MenuBarItemSpacing:
         return kGrid;
     case PM_MenuBarPanelWidth:
