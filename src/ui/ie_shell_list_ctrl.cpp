@@ -18,6 +18,9 @@ namespace ui
 namespace
 {
 
+// Sizes that are read for a selection before everything else's turn comes.
+constexpr int kFactsOfSelection = 50;
+
 // "file://" and the path's bytes, all but the plain ones as "%41".
 QByteArray FileUri(const std::string& path)
 {
@@ -218,14 +221,19 @@ void CIEShellListCtrl::CopySelection() const
     QGuiApplication::clipboard()->setMimeData(copied);
 }
 
-SelectionFacts CIEShellListCtrl::Selection() const
+SelectionFacts CIEShellListCtrl::Selection()
 {
     SelectionFacts facts;
+    int toRead = kFactsOfSelection;
     for (const QItemSelectionRange& range : View()->selectionModel()->selection()) {
         facts.files += range.height();
-        for (int row = range.top(); row <= range.bottom() && row < list.Count(); ++row)
+        for (int row = range.top(); row <= range.bottom() && row < list.Count(); ++row) {
+            if (!list.Item(row).factsKnown && --toRead >= 0)
+                list.ReadFacts(row);
             facts.bytes += list.Item(row).fileSize;
+        }
     }
+    facts.complete = toRead >= 0;
     return facts;
 }
 

@@ -25,7 +25,8 @@ enum class ViewStyle { thumbnails, details };
 
 struct SelectionFacts {
     int files = 0;
-    std::uint64_t bytes = 0;  // of those whose size is known
+    std::uint64_t bytes = 0;
+    bool complete = true;  // whether every size was known
 };
 
 class CIEShellListCtrl : public QWidget
@@ -52,7 +53,7 @@ public:
     void InvertSelection();
     // Puts the selected files on the clipboard.
     void CopySelection() const;
-    SelectionFacts Selection() const;
+    SelectionFacts Selection();
     // Opens the current file with the desktop's program, or tells of the current folder.
     void Activate(const QModelIndex& index);
 

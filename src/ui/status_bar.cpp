@@ -17,6 +17,8 @@ namespace ui
 namespace
 {
 
+const QString kDot = QStringLiteral("  \u00b7  ");
+
 class CProgressLine : public QProgressBar
 {
 public:
@@ -62,7 +64,7 @@ CStatusBar::CStatusBar(QWidget* parent)
     progress->hide();
 }
 
-void CStatusBar::ShowFiles(const CIEShellListCtrl& ctrl)
+void CStatusBar::ShowFiles(CIEShellListCtrl& ctrl)
 {
     const browser::CMediaFileList& list = ctrl.List();
     const QString one = QStringLiteral("file");
@@ -77,14 +79,16 @@ void CStatusBar::ShowFiles(const CIEShellListCtrl& ctrl)
                              QStringLiteral("folders")) +
                    QStringLiteral(", ") + text;
         if (list.Count() > 0 && list.AllFactsKnown())
-            text += QStringLiteral("  \u00b7  ") + SizeText(list.KnownBytes());
+            text += kDot + SizeText(list.KnownBytes());
         files->setText(text);
     }
     const SelectionFacts chosen = ctrl.Selection();
-    selection->setText(chosen.files == 0
-                           ? QString()
-                           : QStringLiteral("%1 selected  \u00b7  %2")
-                                 .arg(QLocale().toString(chosen.files), SizeText(chosen.bytes)));
+    QString text;
+    if (chosen.files > 0)
+        text = QStringLiteral("%1 selected").arg(QLocale().toString(chosen.files));
+    if (chosen.files > 0 && chosen.complete)
+        text += kDot + SizeText(chosen.bytes);
+    selection->setText(text);
     ShowThumbnails(ctrl);
 }
 

@@ -18,9 +18,10 @@ class CStatusBar : public QStatusBar
 
 public:
     explicit CStatusBar(QWidget* parent = nullptr);
-    void ShowFiles(const CIEShellListCtrl& ctrl);
+    void ShowFiles(CIEShellListCtrl& ctrl);
     void ShowThumbnails(const CIEShellListCtrl& ctrl);
     QString FilesText() const { return files->text(); }
+    QString SelectionText() const { return selection->text(); }
     QString ThumbnailsText() const { return thumbnailsLeft->text(); }
 
 private:

@@ -128,7 +128,7 @@ TEST_F(ListTest, TheSelectionGoesAlongFromOneViewToTheOther)
         Run(view);
 
         EXPECT_EQ(SelectedNames(), chosen);
-        EXPECT_EQ(List().Selection().files, 3);
+        EXPECT_EQ(frame->Status()->SelectionText(), QStringLiteral("3 selected  \u00b7  21 bytes"));
         EXPECT_TRUE(View().isVisible());
     }
     Run(CommandId::details);
