@@ -19,6 +19,8 @@ namespace
 // Each time round, another process has replaced the archive since it was opened here.
 constexpr int kMostReopenings = 1000;
 constexpr const char* kCompactionFile = "/~zip~temp~file~.vy";
+// Beside the archive, for one too large for the temporary folder.
+constexpr const char* kSpareSuffix = "~";
 
 platform::CFileSystem& Files()
 {
@@ -271,8 +273,14 @@ bool CPackageArchive::Compact()
     static std::mutex oneAtATime;
     const std::lock_guard hold(oneAtATime);
     const std::string folder = Files().GetTempPath();
-    const std::string temporary = folder + kCompactionFile;
-    auto target = folder.empty() ? nullptr : Files().Open(temporary, platform::OpenMode::create);
+    // The temporary folder may be too small for a large archive; then its own folder serves.
+    return (!folder.empty() && CompactThrough(folder + kCompactionFile)) ||
+           CompactThrough(archivePath + kSpareSuffix);
+}
+
+bool CPackageArchive::CompactThrough(const std::string& temporary)
+{
+    auto target = Files().Open(temporary, platform::OpenMode::create);
     if (!target)
         return FailAs("the temporary file cannot be made");
     auto compacted = WriteCompacted(*file, *index, newTexts, *target);

@@ -120,6 +120,7 @@ private:
     bool WriteMember(platform::CFile& source, PackageMember& member);
     bool NeedsCompaction() const;
     bool Compact();
+    bool CompactThrough(const std::string& temporary);
     void KeepCompacted(const platform::FileStamp& written, std::unique_ptr<CPackageIndex> compacted);
     void Forget();
 

@@ -45,23 +45,19 @@ bool IsCurrent(const PackageMember& member, const platform::FileFacts& facts)
 
 platform::BitmapHandle LoadEntry(CPackageArchive& opened, std::size_t index)
 {
-    const std::string& name = opened.Member(index).name;
-    const std::string path = TemporaryPath(name);
-    if (path.empty()) {
+    const std::string path = TemporaryPath(opened.Member(index).name);
+    std::string data;
+    if (path.empty() || !opened.ExtractToMemory(index, data)) {
         return nullptr;
     }
-    bool extracted = false;
-    if (FileName(path) == name) {
-        extracted = opened.ExtractToFolder(index, std::string(FolderOf(path)));
-    } else if (std::string data; opened.ExtractToMemory(index, data)) {
-        extracted = Files().ReplaceFile(path, std::as_bytes(std::span(data)));
-    }
     platform::BitmapHandle bitmap;
-    if (extracted) {
+    auto file = Files().Open(path, platform::OpenMode::create);
+    if (file && file->WriteAt(0, std::as_bytes(std::span(data)))) {
+        file.reset();
         const platform::CImage image(path);
         bitmap = image.GetThumbnail(image.Width(), image.Height(), 7, 0x21808);
-        Files().DeleteFile(path);
     }
+    Files().DeleteFile(path);
     return bitmap;
 }
 

@@ -32,6 +32,8 @@ std::string HiddenName()
     return name;
 }
 
+constexpr off_t kWriteBackPiece = 4 << 20;
+
 std::string DescriptorPath(int fd)
 {
     return "/proc/self/fd/" + std::to_string(fd);
@@ -203,13 +205,22 @@ bool CopyBytes(int from, int to)
 {
     if (ioctl(to, FICLONE, from) == 0)
         return true;
+    struct stat source {
+    };
+    struct stat target {
+    };
+    if (fstat(from, &source) != 0 || fstat(to, &target) != 0)
+        return Fail();
+    // Asked for at once, the room lies together, and a disk too full is known before anything is written.
+    if (fallocate(to, FALLOC_FL_KEEP_SIZE, 0, source.st_size) != 0 && errno == ENOSPC)
+        return Fail();
     constexpr std::size_t kPiece = 64 << 20;
-    while (copy_file_range(from, nullptr, to, nullptr, kPiece, 0) > 0) {
+    while (source.st_dev == target.st_dev && copy_file_range(from, nullptr, to, nullptr, kPiece, 0) > 0) {
     }
-    // Whatever ended that - the end of the file, or a pair of file systems that cannot - what is left goes
-    // through here, and a real failure shows here again.
+    // Whatever ended that - the end of the file, or a file system that cannot - what is left goes through
+    // here, and a real failure shows here again.
     const auto buffer = std::make_unique<std::array<std::byte, 256 * 1024>>();
-    for (;;) {
+    for (off_t begun = lseek(to, 0, SEEK_CUR), done = begun;;) {
         const ssize_t count = read(from, buffer->data(), buffer->size());
         if (count < 0 && errno == EINTR)
             continue;
@@ -217,6 +228,12 @@ bool CopyBytes(int from, int to)
             return count == 0 || Fail();
         if (!WriteAll(to, std::span(buffer->data(), static_cast<std::size_t>(count))))
             return false;
+        done += count;
+        // The medium starts on what is there while the rest is still being read.
+        if (done - begun >= kWriteBackPiece) {
+            (void)sync_file_range(to, begun, done - begun, SYNC_FILE_RANGE_WRITE);
+            begun = done;
+        }
     }
 }
 

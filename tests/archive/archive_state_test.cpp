@@ -95,6 +95,17 @@ TEST_F(ArchiveState, AFullDiskAtAnyByteLeavesTheOldStateOrTheNewOne)
     }
 }
 
+TEST_F(ArchiveState, CompactionGoesByItsOwnFolderWhenTheTemporaryOneCannotServe)
+{
+    CFaultyFileSystem faulty(files);
+    faulty.refused = {files.GetTempPath() + "/~zip~temp~file~.vy"};
+
+    EXPECT_TRUE(Run(changes.back(), faulty));
+
+    EXPECT_EQ(Contents(), changes.back().after);
+    EXPECT_FALSE(std::filesystem::exists(path + "~"));
+}
+
 TEST_F(ArchiveState, AFailedAddIsForgottenAndTheNextOneStands)
 {
     MakeArchive();

@@ -240,7 +240,8 @@ TEST_F(MediaFileList, OddEntriesOfAFolderDoNoHarm)
     Make("target.jpg");
     Make("none.txt");
     const std::string longName = std::string(251, 'n') + ".jpg";
-    for (const std::string& name : {std::string("-dash.jpg"), std::string("\xff\xfe.jpg"), longName}) {
+    for (const std::string& name :
+         {std::string("-dash.jpg"), std::string("\xff\xfe.jpg"), std::string("back\\slash.jpg"), longName}) {
         Make(name);
     }
     std::filesystem::create_symlink(place + "/target.jpg", place + "/link.gif");
@@ -258,11 +259,12 @@ TEST_F(MediaFileList, OddEntriesOfAFolderDoNoHarm)
     for (int i = 0; i < list.Count(); ++i) {
         const std::string& name = list.Item(i).name;
         const bool expected = name == "target.jpg" || name == "link.gif" || name == "-dash.jpg" ||
-                              name == "\xff\xfe.jpg" || name == longName;
+                              name == "\xff\xfe.jpg" || name == "back\\slash.jpg" || name == longName;
         EXPECT_EQ(list.Item(i).thumbnail != nullptr, expected) << name;
     }
-    EXPECT_EQ(list.Count(), 10);
+    EXPECT_EQ(list.Count(), 11);
     EXPECT_EQ(Result(longName), ThumbnailResult::reused);
+    EXPECT_EQ(Result("back\\slash.jpg"), ThumbnailResult::reused);
 }
 
 TEST_F(MediaFileList, ClipsAndHandsetImagesAreLoadedInTheirOwnWays)
