@@ -34,7 +34,8 @@ CThumbnailView::CThumbnailView(const browser::CMediaFileList& mediaList, QWidget
 
 void CThumbnailView::SetThumbnailSide(int pixels)
 {
-    const QModelIndex kept = currentIndex().isValid() ? currentIndex() : FirstVisible();
+    const bool currentShows = visualRect(currentIndex()).intersects(viewport()->rect());
+    const QModelIndex kept = currentShows ? currentIndex() : FirstVisible();
     side = pixels;
     Regrid();
     if (kept.isValid())
