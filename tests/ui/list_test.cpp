@@ -3,6 +3,7 @@
 // The list: filling, thumbnails, filters, selection and what it says when there is nothing to show.
 #include "window_test_base.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QMimeData>
 #include <QScrollBar>
@@ -173,6 +174,20 @@ TEST_F(ListTest, KeysAndMouseSelectOnTheGrid)
     const Texts banded = {"photo0.mid", "photo1.mid", "photo" + std::to_string(columns) + ".mid",
                           "photo" + std::to_string(columns + 1) + ".mid"};
     EXPECT_EQ(SelectedNames(), banded);
+}
+
+TEST_F(ListTest, AScreenReaderSeesAListOfTheFilesNames)
+{
+    AddMany(20, ".mid");
+    Open();
+
+    QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(List().Thumbnails());
+    ASSERT_NE(seen, nullptr);
+    EXPECT_EQ(seen->role(), QAccessible::List);
+    EXPECT_EQ(seen->text(QAccessible::Name), QStringLiteral("Files"));
+    ASSERT_EQ(seen->childCount(), 20);
+    EXPECT_EQ(seen->child(7)->text(QAccessible::Name), QStringLiteral("photo7.mid"));
+    EXPECT_TRUE(seen->rect().contains(seen->child(0)->rect()));
 }
 
 TEST_F(ListTest, OddNamesAreShownCopiedAndOpenedByTheirBytes)
