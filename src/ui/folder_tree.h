@@ -23,6 +23,9 @@ public:
     bool SelectFolder(const std::string& path);
     // Opens the places that the tree starts with.
     void ExpandPlaces();
+    // Reads the sub-folders of the selected folder anew.
+    void Refresh() { folders.Read(currentIndex()); }
+    bool IsReading() const { return folders.IsReading(); }
 
 Q_SIGNALS:
     // The user has selected another folder.

@@ -199,6 +199,7 @@ void CMainFrame::RunViewCommand(app::CommandId id)
         List()->SetFilter(kKeep, menu->Action(id)->isChecked() ? 1 : 0);
         break;
     case CommandId::refresh:
+        left->Tree()->Refresh();
         List()->Refresh();
         break;
     default:

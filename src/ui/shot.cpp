@@ -34,7 +34,7 @@ CShot::CShot(CMainFrame& window, std::string pictureFile)
 
 void CShot::Look()
 {
-    if (!frame.List()->IsScreenComplete())
+    if (!frame.List()->IsScreenComplete() || frame.LeftView()->Tree()->IsReading())
         return;
     lookTimer.stop();
     patience.stop();
