@@ -40,12 +40,18 @@ std::size_t CInputFile::ReadAt(std::uint64_t offset, std::span<std::uint8_t> buf
     return done;
 }
 
-std::optional<std::vector<std::uint8_t>> CInputFile::ReadWhole(std::uint64_t most) const
+std::uint64_t CInputFile::Length() const
 {
     struct stat facts = {};
-    if (fstat(descriptor, &facts) != 0 || static_cast<std::uint64_t>(facts.st_size) > most)
+    return fstat(descriptor, &facts) == 0 ? static_cast<std::uint64_t>(facts.st_size) : 0;
+}
+
+std::optional<std::vector<std::uint8_t>> CInputFile::ReadWhole(std::uint64_t most) const
+{
+    const std::uint64_t length = Length();
+    if (length > most)
         return std::nullopt;
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(facts.st_size));
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(length));
     bytes.resize(ReadAt(0, bytes));
     return bytes;
 }

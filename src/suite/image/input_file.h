@@ -30,6 +30,7 @@ public:
 
     // Fewer bytes than asked only at the end of the file or on failure.
     std::size_t ReadAt(std::uint64_t offset, std::span<std::uint8_t> buffer) const;
+    std::uint64_t Length() const;
     // Nothing when the file cannot be read or is longer than `most` bytes.
     std::optional<std::vector<std::uint8_t>> ReadWhole(std::uint64_t most) const;
     int Descriptor() const { return descriptor; }

@@ -54,14 +54,20 @@ void ConvertCmykRow(std::uint8_t* row, unsigned width, bool storesLight)
 // the file up to the end of the last scan that is whole.
 bool ReadScans(CJpegInput& input, std::uint64_t& wholeScans)
 {
-    return input.Guarded([&input, &wholeScans](jpeg_decompress_struct& info) {
+    const bool isRead = input.Guarded([&input, &wholeScans](jpeg_decompress_struct& info) {
         constexpr int kMarkerLength = 2;
         int state = JPEG_SUSPENDED;
-        while (state != JPEG_REACHED_EOI) {
+        while (state != JPEG_REACHED_EOI && !input.HasTooManyScans()) {
             state = jpeg_consume_input(&info);
             if (state == JPEG_SCAN_COMPLETED)
                 wholeScans = input.Position() - kMarkerLength;
         }
+    });
+    if (input.HasTooManyScans()) {
+        wholeScans = 0;
+        return false;
+    }
+    return isRead && input.Guarded([](jpeg_decompress_struct& info) {
         jpeg_start_output(&info, info.input_scan_number);
     });
 }
@@ -84,6 +90,8 @@ bool Start(CJpegInput& input, platform::Extent stored, platform::Extent target, 
     // Smooth chroma shows at full size only.
     info.do_fancy_upsampling = target == stored ? TRUE : FALSE;
     info.buffered_image = jpeg_has_multiple_scans(&info);
+    if (info.buffered_image != FALSE && input.IsTooShort())
+        return false;
     return input.Guarded([](jpeg_decompress_struct& started) { jpeg_start_decompress(&started); }) &&
            (info.buffered_image == FALSE || ReadScans(input, wholeScans));
 }

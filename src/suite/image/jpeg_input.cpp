@@ -11,8 +11,11 @@ namespace
 {
 
 constexpr long kMostMemory = 512L << 20;
-// Honest progressive files have about ten scans; each costs a walk over all coefficients.
-constexpr int kMostScans = 200;
+// Honest progressive files have about ten scans; each costs a walk over the whole picture.
+constexpr std::uint64_t kLeastScans = 16;
+constexpr std::uint64_t kMostScans = 200;
+constexpr std::uint64_t kMostPixelsInScans = std::uint64_t{1} << 31;
+constexpr int kMostLostStretches = 100;
 constexpr std::array<std::uint8_t, 2> kEndOfImage = {0xFF, 0xD9};
 
 bool IsRestartMarker(int marker)
@@ -38,8 +41,6 @@ CJpegInput::CJpegInput(const CInputFile& read, std::uint64_t length) : file(read
     source.resync_to_restart = jpeg_resync_to_restart;
     source.term_source = [](j_decompress_ptr) {};
     info.src = &source;
-    progress.progress_monitor = OnProgress;
-    info.progress = &progress;
     isCreated = true;
 }
 
@@ -74,14 +75,23 @@ void CJpegInput::OnMessage(j_common_ptr common, int level)
         return;
     ++common->err->num_warnings;
     // After a lost stretch a restart marker lets the decoder go on; any other marker ends the scan.
-    if (common->err->msg_code == JWRN_HIT_MARKER && !IsRestartMarker(Of(common).info.unread_marker))
-        Of(common).endedEarly = true;
+    CJpegInput& input = Of(common);
+    if (common->err->msg_code == JWRN_HIT_MARKER &&
+        (!IsRestartMarker(input.info.unread_marker) || ++input.lostStretches > kMostLostStretches))
+        input.endedEarly = true;
 }
 
-void CJpegInput::OnProgress(j_common_ptr common)
+bool CJpegInput::HasTooManyScans() const
 {
-    if (Of(common).info.input_scan_number > kMostScans)
-        OnError(common);
+    const std::uint64_t pixels = std::uint64_t{info.image_width} * info.image_height;
+    const std::uint64_t most = std::clamp(kMostPixelsInScans / pixels, kLeastScans, kMostScans);
+    return static_cast<std::uint64_t>(info.input_scan_number) > most;
+}
+
+bool CJpegInput::IsTooShort() const
+{
+    constexpr std::uint64_t kPixelsOfBlock = 64;
+    return std::uint64_t{info.image_width} * info.image_height / kPixelsOfBlock > file.Length() * 8;
 }
 
 boolean CJpegInput::Fill(j_decompress_ptr decoder)

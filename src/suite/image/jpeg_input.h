@@ -40,6 +40,10 @@ public:
     bool EndedEarly() const { return endedEarly; }
     // Where in the file libjpeg reads next; after the header, the scan's data.
     std::uint64_t Position() const { return offset - source.bytes_in_buffer; }
+    // Whether there are too few bytes for all scans of a picture of this size: a block takes a bit at least.
+    bool IsTooShort() const;
+    // Whether the file has gone on to more scans than any honest picture of its size.
+    bool HasTooManyScans() const;
     // Whether data of some length follows what was read so far.
     bool HasMore(std::size_t length) const;
 
@@ -49,7 +53,6 @@ private:
     static CJpegInput& Of(j_common_ptr common) { return *static_cast<CJpegInput*>(common->client_data); }
     static void OnError(j_common_ptr common);
     static void OnMessage(j_common_ptr common, int level);
-    static void OnProgress(j_common_ptr common);
     static boolean Fill(j_decompress_ptr decoder);
     static void Skip(j_decompress_ptr decoder, long length);
 
@@ -61,10 +64,10 @@ private:
     std::array<std::uint8_t, 65536> buffer;
     jpeg_error_mgr errors = {};
     jpeg_source_mgr source = {};
-    jpeg_progress_mgr progress = {};
     std::jmp_buf onError;
     bool isCreated = false;
     bool endedEarly = false;
+    int lostStretches = 0;
 };
 
 }  // namespace suite
