@@ -191,6 +191,41 @@ TEST_F(CImageTest, HugeSizesInSmallFilesCostNeitherTimeNorMemory)
     }
 }
 
+TEST_F(CImageTest, FilesOfCountlessScansOrRestartsEndSoon)
+{
+    std::string scans = ReadBytes(Sample("progressive.jpg"));
+    const std::size_t last = scans.rfind("\xFF\xDA");
+    const std::string scan = scans.substr(last, 2U + static_cast<unsigned char>(scans[last + 3]));
+    scans.resize(scans.size() - 2);  // the end marker
+    std::string restarts = ReadBytes(Sample("full_chroma.jpg"));
+    restarts.resize(restarts.find("\xFF\xDA") + 14);
+    restarts.insert(restarts.find("\xFF\xDA"), std::string("\xFF\xDD\0\4\xFF\xFF", 6));
+    for (int i = 0; i < 70'000; ++i) {
+        scans += i < 40'000 ? scan : "";
+        restarts += {'\xFF', static_cast<char>(0xD0 + i % 8)};
+    }
+    // 12,900 pixels a side are just within the memory that scans may take.
+    scans.replace(scans.find("\xFF\xC2") + 5, 4, "\x32\x64\x32\x64");
+    restarts.replace(restarts.find("\xFF\xC0") + 5, 4, "\xFF\xDC\xFF\xDC");
+
+    EXPECT_EQ(Thumbnail(CImage(folder.Make("scans.jpg", scans)), 180, 180), nullptr);
+    const CImage restarted(folder.Make("restarts.jpg", restarts));
+    EXPECT_EQ(restarted.Width(), 65'500);
+    Thumbnail(restarted, 180, 180);
+}
+
+TEST_F(CImageTest, ImpossibleSizesAreRefusedAndOpenedFilesOutliveTheirNames)
+{
+    const CImage image(folder.Make("a.png", ReadBytes(Sample("colour.png"))));
+    std::filesystem::remove(folder.Path("a.png"));
+
+    EXPECT_EQ(Thumbnail(image, 0, 10), nullptr);
+    EXPECT_EQ(Thumbnail(image, 10, -1), nullptr);
+    EXPECT_EQ(Thumbnail(image, 65'536, 1), nullptr);
+    EXPECT_EQ(Thumbnail(image, 60'000, 60'000), nullptr);
+    EXPECT_EQ(Quarters(Thumbnail(image, 8, 6)), "RGBW");
+}
+
 TEST_F(CImageTest, ThumbnailsEqualTheMeanOfTheWholePicture)
 {
     const platform::Bitmap whole = Landscape(1600, 1200);
