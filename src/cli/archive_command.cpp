@@ -48,24 +48,25 @@ void WithArchive(CContext& context, const std::string& file, Mode mode, bool com
     context.PrintResult(done, file, why);
 }
 
-// Calls `work` with the member of that name; without one the operation fails.
-void WithMember(CContext& context, const ArchiveArguments& arguments, bool compact,
+// Calls `work` with the member of that name. Failures are reported; whether all of it was done.
+bool WithMember(CContext& context, const ArchiveArguments& arguments, Mode mode, bool compact,
                 const std::function<bool(CPackageArchive&, std::size_t)>& work)
 {
     CPackageArchive archive;
-    if (!archive.Open(arguments.file, Mode::readWrite)) {
-        context.PrintResult(false, arguments.file, archive.Error());
-        return;
+    if (!archive.Open(arguments.file, mode)) {
+        context.Fail(arguments.file, archive.Error());
+        return false;
     }
     const auto member = archive.Find(arguments.name);
     if (!member) {
-        context.PrintResult(false, arguments.name, "there is no such member");
-        return;
+        context.Fail(arguments.name, "there is no such member");
+        return false;
     }
-    const bool done = work(archive, *member);
-    const std::string why = archive.Error();
-    const bool closed = archive.Close(compact);
-    context.PrintResult(done && closed, arguments.file, done ? archive.Error() : why);
+    if (!work(archive, *member) || !archive.Close(compact)) {
+        context.Fail(arguments.name, archive.Error());
+        return false;
+    }
+    return true;
 }
 
 void RunAdd(CContext& context, const ArchiveArguments& arguments)
@@ -140,27 +141,35 @@ void RunList(CContext& context, const ArchiveArguments& arguments)
 
 void RunExtract(CContext& context, const ArchiveArguments& arguments)
 {
-    CPackageArchive archive;
-    if (!archive.Open(arguments.file, Mode::read)) {
-        context.PrintResult(false, arguments.file, archive.Error());
-        return;
-    }
-    const auto member = archive.Find(arguments.name);
-    if (!member) {
-        context.PrintResult(false, arguments.name, "there is no such member");
-        return;
-    }
+    const bool done =
+        WithMember(context, arguments, Mode::read, false, [&](auto& archive, std::size_t member) {
+            if (!arguments.toStandardOutput) {
+                return archive.ExtractToFolder(member, arguments.to);
+            }
+            std::string data;
+            const bool extracted = archive.ExtractToMemory(member, data);
+            CContext::PrintBytes(data);
+            return extracted;
+        });
     if (!arguments.toStandardOutput) {
-        const bool done = archive.ExtractToFolder(*member, arguments.to);
-        context.PrintResult(done, arguments.name, archive.Error());
-        return;
+        context.PrintJson({{"result", done}});
     }
-    std::string data;
-    if (archive.ExtractToMemory(*member, data)) {
-        CContext::PrintBytes(data);
-    } else {
-        context.Fail(arguments.name, archive.Error());
-    }
+}
+
+void RunRemove(CContext& context, const ArchiveArguments& arguments)
+{
+    const auto remove = [](auto& archive, std::size_t member) { return archive.Remove(member); };
+    context.PrintJson(
+        {{"result", WithMember(context, arguments, Mode::readWrite, arguments.compact, remove)}});
+}
+
+void RunTexts(CContext& context, const ArchiveArguments& arguments)
+{
+    const auto set = [&arguments](auto& archive, std::size_t member) {
+        return archive.SetTexts(member, arguments.caption, arguments.stamp, arguments.second);
+    };
+    context.PrintJson(
+        {{"result", WithMember(context, arguments, Mode::readWrite, !arguments.noCompact, set)}});
 }
 
 using Arguments = std::shared_ptr<ArchiveArguments>;
@@ -199,22 +208,12 @@ void AddMemberCommands(CLI::App& parent, CContext& context, const Arguments& arg
     where->add_flag("--stdout", arguments->toStandardOutput, "Write to standard output");
     where->require_option(1);
 
-    auto* remove =
-        AddCommand(parent, context, "remove", "Mark one member deleted", arguments,
-                   [](CContext& run, const ArchiveArguments& given) {
-                       WithMember(run, given, given.compact,
-                                  [](auto& archive, std::size_t member) { return archive.Remove(member); });
-                   });
+    auto* remove = AddCommand(parent, context, "remove", "Mark one member deleted", arguments, RunRemove);
     remove->add_option("NAME", arguments->name, "The member")->required();
     remove->add_flag("--compact", arguments->compact, "Drop the data of deleted members");
 
-    auto* texts =
-        AddCommand(parent, context, "texts", "Set the three texts; one not given is cleared", arguments,
-                   [](CContext& run, const ArchiveArguments& given) {
-                       WithMember(run, given, !given.noCompact, [&given](auto& archive, std::size_t member) {
-                           return archive.SetTexts(member, given.caption, given.stamp, given.second);
-                       });
-                   });
+    auto* texts = AddCommand(parent, context, "texts", "Set the three texts; one not given is cleared",
+                             arguments, RunTexts);
     texts->add_option("NAME", arguments->name, "The member")->required();
     texts->add_option("--caption", arguments->caption, "Caption");
     texts->add_option("--stamp", arguments->stamp, "Time stamp text");
