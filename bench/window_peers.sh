@@ -41,6 +41,9 @@ run_in() { # HOME COMMAND...: on a screen and a bus of its own
         xvfb-run -a -s '-screen 0 1280x800x24' dbus-run-session -- "$@" 2>>"$work/errors.txt"
 }
 
+# What the bus starts may say something on its own.
+figures() { grep -xE '(-?[0-9.]+ ?){4}' || true; }
+
 measure() { # NAME COMMAND...
     local name=$1 home=$work/home
     shift
@@ -48,8 +51,8 @@ measure() { # NAME COMMAND...
     : > "$work/$name.again"
     for ((i = 0; i < rounds; i++)); do
         rm -rf "$home"
-        run_in "$home" "$build/bin/window_watch" "$@" >> "$work/$name.first" || true
-        run_in "$home" "$build/bin/window_watch" "$@" >> "$work/$name.again" || true
+        { run_in "$home" "$build/bin/window_watch" "$@" || true; } | figures >> "$work/$name.first"
+        { run_in "$home" "$build/bin/window_watch" "$@" || true; } | figures >> "$work/$name.again"
     done
 }
 
