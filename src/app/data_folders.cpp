@@ -254,8 +254,15 @@ bool CDataFolders::EnsureFolder(const std::string& path)
     if (path.empty()) {
         return false;
     }
-    const auto facts = Os().files->FindFirstFile(path);
-    return facts ? facts->isFolder : Os().files->CreateDirectory(path);
+    const auto isFolder = [&path] {
+        const auto facts = Os().files->FindFirstFile(path);
+        return facts ? std::optional(facts->isFolder) : std::nullopt;
+    };
+    if (const auto found = isFolder()) {
+        return *found;
+    }
+    // Another process that starts at this moment may have made it first.
+    return Os().files->CreateDirectory(path) || isFolder().value_or(false);
 }
 
 void CDataFolders::EnsurePath(const std::string& path)

@@ -21,6 +21,10 @@ namespace
 // Sizes that are read for a selection before everything else's turn comes.
 constexpr int kFactsOfSelection = 50;
 
+// Milliseconds to wait for another program that holds the store: while the window is live, and at its end.
+constexpr int kPatience = 50;
+constexpr int kPatienceAtEnd = 10'000;
+
 // "file://" and the path's bytes, all but the plain ones as "%41".
 QByteArray FileUri(const std::string& path)
 {
@@ -35,6 +39,7 @@ CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* pare
       details(new CDetailsView(this)), pages(new QStackedLayout(this)), emptyState(new CEmptyState(this))
 {
     storeManager.Load();
+    storeManager.SetPatience(kPatience);
     pages->addWidget(thumbnails);
     pages->addWidget(details);
     thumbnails->setModel(&nameModel);
@@ -53,6 +58,7 @@ CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* pare
 
 CIEShellListCtrl::~CIEShellListCtrl()
 {
+    storeManager.SetPatience(kPatienceAtEnd);
     storeManager.Save(true);
 }
 

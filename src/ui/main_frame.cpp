@@ -36,7 +36,7 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       state({ReadPrinterDefaults, [this](bool on) { setEnabled(on); },
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
-      right(new CIEShellListView(folders.ThumbDbFolder(), *menu)), status(new CStatusBar(this))
+      right(new CIEShellListView(owner.DbFolder(), *menu)), status(new CStatusBar(this))
 {
     LoadSettings();
     const std::string caption = owner.Caption();

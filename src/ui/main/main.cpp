@@ -127,7 +127,7 @@ int Say(const ui::CommandLine& line)
 {
     switch (line.task) {
     case ui::Task::version:
-        std::printf("kelvo %s\n", app::ProgramVersionText().c_str());
+        std::puts("kelvo " KELVO_VERSION);
         return 0;
     case ui::Task::help:
         std::fputs(ui::UsageText().c_str(), stdout);
