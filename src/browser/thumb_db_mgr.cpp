@@ -68,11 +68,17 @@ int CThumbDbMgr::Load()
     }
     Files().CreateDirectory(dbFolder);
     platform::Os().utility->OutputDebugString(fmt::format("DB Manager Path : {}\n", dbFolder));
-    if (const auto created = Files().Open(ManagerPath(), platform::OpenMode::createNew)) {
-        return created->WriteAt(0, Bytes(EncodeCount(0))) ? 1 : 0;
-    }
+    const bool created = !Files().FindFirstFile(ManagerPath()) && CreateManagerFile();
     TakeInChanges();
-    return records.empty() ? 0 : 1;
+    return created || !records.empty() ? 1 : 0;
+}
+
+// Under the lock: another process that starts at this moment may already have added to the file.
+bool CThumbDbMgr::CreateManagerFile() const
+{
+    const auto lock = LockStore();
+    const auto file = lock ? Files().Open(ManagerPath(), platform::OpenMode::createNew) : nullptr;
+    return file && file->WriteAt(0, Bytes(EncodeCount(0)));
 }
 
 // Brings the list up to what other processes made of the file since it was last read: their new records are

@@ -69,6 +69,7 @@ public:
 
 private:
     std::string ManagerPath() const;
+    bool CreateManagerFile() const;
     void TakeInChanges();
     void ForgetFile();
     bool AppendToFile(const ThumbDbRecord& record);

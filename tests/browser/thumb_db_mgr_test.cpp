@@ -186,6 +186,37 @@ TEST_F(ThumbDbMgr, TwoProcessesOnOneStoreLoseNothing)
                             {Folder("b"), "Tmb1.db"}, {Folder("c"), "Tmb2.db"}, {Folder("d"), "Tmb3.db"}}));
 }
 
+TEST_F(ThumbDbMgr, AFolderAddedWhileAnotherProcessMakesTheFileIsNotLost)
+{
+    // Between the making of a new file and the first write to it, another process adds a folder.
+    class CCrossing : public support::CTestFileSystem
+    {
+    public:
+        std::unique_ptr<platform::CFile> Open(const std::string& path, platform::OpenMode mode) override
+        {
+            auto file = CTestFileSystem::Open(path, mode);
+            if (mode == platform::OpenMode::createNew && file) {
+                added = other->AddFolder("/b") != nullptr;
+            }
+            return file;
+        }
+        CThumbDbMgr* other = nullptr;
+        bool added = false;
+    } crossing;
+    CThumbDbMgr other(Folder("ThumbDB"));
+    other.SetPatience(0);
+    crossing.other = &other;
+
+    {
+        const support::CServicesGuard guard(crossing);
+        CThumbDbMgr(dbFolder).Load();
+    }
+
+    EXPECT_EQ(OnDisk().size(), crossing.added ? 1U : 0U);
+    EXPECT_NE(other.AddFolder("/b"), nullptr);
+    EXPECT_EQ(OnDisk().size(), 1U);
+}
+
 TEST_F(ThumbDbMgr, AStopAtAnyStepLeavesTheOldRecordsOrTheNew)
 {
     for (const support::Fault fault :
