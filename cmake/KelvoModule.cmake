@@ -36,17 +36,20 @@ function(kelvo_module name)
   target_link_libraries(kelvo_${name} PUBLIC kelvo_options ${arg_DEPENDS} ${arg_LIBRARIES})
 endfunction()
 
-# kelvo_test(NAME [DEPENDS module...] [LIBRARIES target...])
+# kelvo_test(NAME [DEPENDS module...] [LIBRARIES target...] [LOCK name])
 #
 # Makes the test program NAME_tests from every source file of the current folder, and a CTest entry for each
-# of its tests.
+# of its tests. Tests with the same LOCK never run at once.
 function(kelvo_test name)
-  cmake_parse_arguments(arg "" "" "DEPENDS;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(arg "" "LOCK" "DEPENDS;LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   add_executable(${name}_tests ${sources})
   list(TRANSFORM arg_DEPENDS PREPEND kelvo_)
   target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name}_tests PRIVATE ${arg_DEPENDS} ${arg_LIBRARIES} GTest::gtest GTest::gmock
                                               GTest::gtest_main)
-  gtest_discover_tests(${name}_tests TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
+  if(arg_LOCK)
+    set(properties PROPERTIES RESOURCE_LOCK ${arg_LOCK})
+  endif()
+  gtest_discover_tests(${name}_tests TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60 ${properties})
 endfunction()
