@@ -33,8 +33,15 @@ void CContext::PrintJson(const Json& document) const
 
 void CContext::PrintLine(const std::string& line) const
 {
-    if (!json && !quiet) {
+    if (!json) {
         PrintBytes(line + "\n");
+    }
+}
+
+void CContext::PrintReport(const std::string& line) const
+{
+    if (!quiet) {
+        PrintLine(line);
     }
 }
 

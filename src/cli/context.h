@@ -33,8 +33,10 @@ public:
 
     // One document on standard output, with --json.
     void PrintJson(const Json& document) const;
-    // A line on standard output, without --json and unless --quiet.
+    // A line of what was asked for on standard output, without --json.
     void PrintLine(const std::string& line) const;
+    // A line that tells what went well, without --json and unless --quiet.
+    void PrintReport(const std::string& line) const;
     // Bytes on standard output as they are.
     static void PrintBytes(const std::string& bytes);
     // "kelvoctl: PATH: why" on standard error; the exit status becomes 1.

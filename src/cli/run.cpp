@@ -15,7 +15,7 @@ int Run(int argc, const char* const* argv, const char* version)
                     "kelvoctl");
     CContext context;
     parser.add_flag("--json", context.json, "One JSON document on standard output");
-    parser.add_flag("--quiet", context.quiet, "No output but failures and JSON");
+    parser.add_flag("--quiet", context.quiet, "No progress bar, and no report of what went well");
     parser.set_version_flag("--version", std::string("kelvoctl ") + version);
     parser.set_help_flag("-h,--help", "This help");
     parser.require_subcommand(1);

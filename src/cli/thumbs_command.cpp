@@ -51,7 +51,7 @@ public:
         }
         context.PrintJson(
             {{"made", counts[1]}, {"reused", counts[2]}, {"none", counts[0]}, {"items", std::move(items)}});
-        context.PrintLine(fmt::format("made {}, reused {}, none {}", counts[1], counts[2], counts[0]));
+        context.PrintReport(fmt::format("made {}, reused {}, none {}", counts[1], counts[2], counts[0]));
     }
 
 private:
@@ -76,8 +76,8 @@ private:
         if (context.json) {
             items.push_back(Describe(index, outcome, size));
         }
-        context.PrintLine(fmt::format("{}\t{}\t{}x{}\t{}", list.Item(index).name, kResultNames[kind],
-                                      size.width, size.height, outcome.dateText));
+        context.PrintReport(fmt::format("{}\t{}\t{}x{}\t{}", list.Item(index).name, kResultNames[kind],
+                                        size.width, size.height, outcome.dateText));
     }
 
     Json Describe(int index, const browser::ThumbnailOutcome& outcome, platform::Extent size) const

@@ -23,6 +23,8 @@ QString Shown(std::string_view bytes)
 
 QString SizeText(std::uint64_t bytes)
 {
+    if (bytes == 1)
+        return QStringLiteral("1 byte");
     return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeTraditionalFormat);
 }
 

@@ -3,7 +3,6 @@
 // Texts that the user reads, and what they are made from.
 #include "support/test_services.h"
 #include "ui/display_text.h"
-#include "ui/media_list_model.h"
 #include "ui/printer_defaults.h"
 
 #include <QDateTime>
@@ -29,7 +28,7 @@ TEST(DisplayText, NamesAreShownOnOneLineWhateverTheirBytes)
 
 TEST(DisplayText, SizesTimesAndCountsAreInTheUsersWords)
 {
-    EXPECT_EQ(ui::SizeText(1), QStringLiteral("1 bytes"));
+    EXPECT_EQ(ui::SizeText(1), QStringLiteral("1 byte"));
     EXPECT_EQ(ui::SizeText(4'404'019), QStringLiteral("4.2 MB"));
     EXPECT_EQ(ui::CountText(1, QStringLiteral("file"), QStringLiteral("files")), QStringLiteral("1 file"));
     EXPECT_EQ(ui::CountText(0, QStringLiteral("file"), QStringLiteral("files")), QStringLiteral("0 files"));
@@ -39,21 +38,6 @@ TEST(DisplayText, SizesTimesAndCountsAreInTheUsersWords)
     const QDateTime local = QDateTime::fromSecsSinceEpoch(1'084'795'200);
     EXPECT_EQ(ui::TimeText(noon), QLocale().toString(local, QLocale::ShortFormat));
     EXPECT_TRUE(ui::TimeText(0).isEmpty());
-}
-
-TEST(DisplayText, AFileTypeIsNamedByExtensionAndKind)
-{
-    const struct {
-        const char* name;
-        const char* type;
-    } rows[] = {{"a.jpg", "JPG picture"}, {"b.mp4", "MP4 video"}, {"c.mid", "MID sound"},
-                {"d.sss", "SSS picture"}, {"e.txt", "TXT file"},  {"f", "File"}};
-    for (const auto& row : rows) {
-        browser::MediaItem item;
-        item.name = row.name;
-        item.types = static_cast<std::uint8_t>(browser::TypeBits(item.name));
-        EXPECT_EQ(ui::TypeText(item).toStdString(), row.type);
-    }
 }
 
 TEST(PrinterDefaults, AUsersOptionsFileNamesThePrinter)
