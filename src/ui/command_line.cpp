@@ -21,7 +21,7 @@ constexpr int kLargestShot = 8192;
 bool IsSuiteWord(const std::string& word)
 {
     const std::string lower = browser::LowerCase(word);
-    return word.starts_with('/') &&
+    return word.starts_with('/') && word.find('/', 1) == std::string::npos &&
            (lower.find("load") != std::string::npos || lower.find("pnplaunch") != std::string::npos) &&
            !platform::Os().files->FindFirstFile(word);
 }
