@@ -122,16 +122,9 @@ bool CPackageArchive::PrepareHeader()
         return FailAs("the archive cannot be written");
     index = std::make_unique<CPackageIndex>();
     indexFits = true;
-    Changed();
+    changed = true;
     stamp = file->Stamp().value_or(platform::FileStamp());
     return true;
-}
-
-void CPackageArchive::Changed()
-{
-    changed = true;
-    // Without the mark, the index could not be told from one of an earlier state.
-    indexFits = file->MarkChanged() && indexFits;
 }
 
 bool CPackageArchive::WriteCount(std::uint32_t count)
@@ -160,6 +153,10 @@ bool CPackageArchive::Close(bool compact)
         done = Fail("the archive is open for reading only");
     else if (compact)
         done = Compact();
+    // Without the mark, the index could not be told from one of an earlier state. Nobody else opens the
+    // archive before; after a kill it bears the time of the last write, which is no mark's.
+    if (IsOpen() && changed)
+        indexFits = file->MarkChanged() && indexFits;
     if (IsOpen() && indexFits && newTexts.empty()) {
         const auto present = changed ? file->Stamp() : stamp;
         if (present)
@@ -229,7 +226,7 @@ bool CPackageArchive::Remove(std::size_t position)
     index->MarkDeleted(position);
     // A count beyond the last whole member is put right as well.
     const bool counted = WriteCount(static_cast<std::uint32_t>(Count()));
-    Changed();
+    changed = true;
     return counted || FailAs("the archive cannot be written");
 }
 

@@ -114,7 +114,6 @@ private:
     bool MayExtract(std::size_t position);
     bool PrepareHeader();
     bool WriteCount(std::uint32_t count);
-    void Changed();
     std::unique_ptr<platform::CFile> OpenSource(const std::string& source, const AddOptions& options,
                                                 PackageMember& member);
     bool WriteMember(platform::CFile& source, PackageMember& member);

@@ -114,11 +114,11 @@ bool CPackageArchive::AddFile(const std::string& source, const AddOptions& optio
         if (error.empty())
             FailAs("the archive cannot be written");
         file->Truncate(index->End());
-        Changed();
+        changed = true;
         return false;
     }
     index->Append(std::move(member));
-    Changed();
+    changed = true;
     return true;
 }
 
