@@ -43,22 +43,29 @@ bool IsCurrent(const PackageMember& member, const platform::FileFacts& facts)
             facts.size == member.originalSize);
 }
 
-platform::BitmapHandle LoadEntry(CPackageArchive& opened, std::size_t index)
-{
-    const std::string path = TemporaryPath(opened.Member(index).name);
-    std::string data;
-    if (path.empty() || !opened.ExtractToMemory(index, data)) {
-        return nullptr;
-    }
+struct LoadedEntry {
     platform::BitmapHandle bitmap;
-    auto file = Files().Open(path, platform::OpenMode::create);
-    if (file && file->WriteAt(0, std::as_bytes(std::span(data)))) {
-        file.reset();
-        const platform::CImage image(path);
-        bitmap = image.GetThumbnail(image.Width(), image.Height(), 7, 0x21808);
+    bool isDamaged = false;  // what is stored is no picture, whoever reads it
+};
+
+LoadedEntry LoadEntry(CPackageArchive& opened, std::size_t index)
+{
+    std::string data;
+    if (!opened.ExtractToMemory(index, data)) {
+        return {nullptr, true};
     }
-    Files().DeleteFile(path);
-    return bitmap;
+    const std::string path = TemporaryPath(opened.Member(index).name);
+    auto file = path.empty() ? nullptr : Files().Open(path, platform::OpenMode::create);
+    LoadedEntry loaded;
+    if (file && file->WriteAt(0, std::as_bytes(std::span(data)))) {
+        const platform::CImage image(path);
+        loaded.bitmap = image.GetThumbnail(image.Width(), image.Height(), 7, 0x21808);
+        loaded.isDamaged = !loaded.bitmap;
+    }
+    if (file) {
+        Files().DeleteFile(path);
+    }
+    return loaded;
 }
 
 }  // namespace
@@ -98,12 +105,12 @@ std::optional<StoredThumbnail> CThumbnailStore::Fetch(const std::string& path,
     std::optional<StoredThumbnail> stored;
     if (const auto index = FindMember(opened, path)) {
         const PackageMember& member = opened.Member(*index);
-        if (!IsCurrent(member, facts)) {
+        const bool isCurrent = IsCurrent(member, facts);
+        LoadedEntry loaded = isCurrent ? LoadEntry(opened, *index) : LoadedEntry{};
+        if (!isCurrent || loaded.isDamaged) {
             opened.Remove(*index);
-        } else if (platform::BitmapHandle bitmap = LoadEntry(opened, *index)) {
-            stored = StoredThumbnail{std::move(bitmap), member.thirdTime, member.timeStampText};
-        } else {
-            opened.Remove(*index);
+        } else if (loaded.bitmap) {
+            stored = StoredThumbnail{std::move(loaded.bitmap), member.thirdTime, member.timeStampText};
         }
     }
     opened.Close(false);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "archive/package_archive.h"
 #include "browser/media_file_list.h"
+#include "support/faulty_file_system.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>
@@ -233,6 +234,24 @@ TEST_F(MediaFileList, ADamagedArchiveIsReplacedAndAnEntryThatCannotBeReadIsMadeA
     support::WriteBytes(archivePath, bytes);
     EXPECT_EQ(Result("a.jpg"), ThumbnailResult::made);
     EXPECT_EQ(Result("a.jpg"), ThumbnailResult::reused);
+}
+
+TEST_F(MediaFileList, ASoundMemberStaysWhenTheTemporaryFolderCannotServe)
+{
+    Make("a.jpg");
+    Result("a.jpg");
+    support::CFaultyFileSystem faulty(services.files);
+    faulty.refused = {services.files.GetTempPath() + "/a.jpg.jpg"};
+
+    {
+        const support::CServicesGuard full(faulty);
+        Result("a.jpg");
+    }
+
+    EXPECT_EQ(Result("a.jpg"), ThumbnailResult::reused);
+    archive::CPackageArchive stored;
+    ASSERT_TRUE(stored.Open(services.folder.Path("ThumbDB/Tmb0.db"), archive::CPackageArchive::Mode::read));
+    EXPECT_EQ(stored.Count(), 1U);
 }
 
 TEST_F(MediaFileList, OddEntriesOfAFolderDoNoHarm)
