@@ -16,6 +16,7 @@ class CShell;
 class CMessages;
 class CUtility;
 class CImageLibrary;
+class CChangeNotifications;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -25,6 +26,7 @@ struct Services {
     CMessages* messages = nullptr;  // null in programs without a window
     CUtility* utility = nullptr;
     CImageLibrary* images = nullptr;
+    CChangeNotifications* changes = nullptr;  // null where nothing is watched
 };
 
 inline Services& Os()
