@@ -18,6 +18,8 @@ namespace
 
 // Each time round, another process has replaced the archive since it was opened here.
 constexpr int kMostReopenings = 1000;
+// Says of the file with which stamp and count its last member ends where the file ends.
+constexpr const char* kTailNote = "archive-tail";
 constexpr const char* kCompactionFile = "/~zip~temp~file~.vy";
 // Beside the archive, for one too large for the temporary folder.
 constexpr const char* kSpareSuffix = "~";
@@ -25,6 +27,18 @@ constexpr const char* kSpareSuffix = "~";
 platform::CFileSystem& Files()
 {
     return *platform::Os().files;
+}
+
+std::string TailNote(const platform::FileStamp& stamp, std::uint32_t count)
+{
+    return std::to_string(stamp.size) + ' ' + std::to_string(stamp.modifiedNanoseconds) + ' ' +
+           std::to_string(count);
+}
+
+void KeepTailNote(platform::CFile& file, const platform::FileStamp& stamp, const CPackageIndex& index)
+{
+    if (index.KnowsTail() && index.Tail() == stamp.size && index.CountToTail() == index.CountInFile())
+        file.KeepNote(kTailNote, TailNote(stamp, index.CountInFile()));
 }
 
 }  // namespace
@@ -108,8 +122,7 @@ bool CPackageArchive::BeginIndex()
     index = TakeIndex(archivePath, stamp);
     if (!index)
         index = CPackageIndex::Begin(*file, stamp.size);
-    indexFits = index != nullptr;
-    return indexFits || FailAs("the archive cannot be read");
+    return index || FailAs("the archive cannot be read");
 }
 
 // Writes the header over whatever the file holds, which empties an archive in one step.
@@ -121,7 +134,6 @@ bool CPackageArchive::PrepareHeader()
     if (!file->WriteAt(0, std::as_bytes(std::span(header))) || !file->Truncate(header.size()))
         return FailAs("the archive cannot be written");
     index = std::make_unique<CPackageIndex>();
-    indexFits = true;
     changed = true;
     stamp = file->Stamp().value_or(platform::FileStamp());
     return true;
@@ -153,17 +165,26 @@ bool CPackageArchive::Close(bool compact)
         done = Fail("the archive is open for reading only");
     else if (compact)
         done = Compact();
-    // Without the mark, the index could not be told from one of an earlier state. Nobody else opens the
-    // archive before; after a kill it bears the time of the last write, which is no mark's.
-    if (IsOpen() && changed)
-        indexFits = file->MarkChanged() && indexFits;
-    if (IsOpen() && indexFits && newTexts.empty()) {
-        const auto present = changed ? file->Stamp() : stamp;
-        if (present)
-            KeepIndex(archivePath, *present, std::move(index));
-    }
+    if (IsOpen())
+        KeepState();
     Forget();
     return done;
+}
+
+// Leaves what is known of the file to the next one who opens it.
+void CPackageArchive::KeepState()
+{
+    // Without the mark, the index could not be told from one of an earlier state. Nobody else opens the
+    // archive before; after a kill it bears the time of the last write, which is no mark's.
+    if (!index || (changed && !file->MarkChanged()))
+        return;
+    const auto present = changed ? file->Stamp() : stamp;
+    if (!present)
+        return;
+    if (changed)
+        KeepTailNote(*file, *present, *index);
+    if (newTexts.empty())
+        KeepIndex(archivePath, *present, std::move(index));
 }
 
 // Closes and leaves nothing behind.
@@ -174,7 +195,6 @@ void CPackageArchive::Forget()
     archivePath.clear();
     newTexts.clear();
     deflater.reset();
-    indexFits = false;
     changed = false;
 }
 
@@ -206,12 +226,26 @@ bool CPackageArchive::MayChange()
         return Fail("the archive is open for reading only");
     if (index->Header() == HeaderState::foreign)
         return Fail("the file is not a package archive");
+    return true;
+}
+
+bool CPackageArchive::ReadAll()
+{
     return index->ReadAll(*file) || FailAs("the archive cannot be read");
+}
+
+// What the note says can at worst be untrue of the records: a member is added at the end of the file in any
+// case, and only if the header holds the count of which the note speaks.
+bool CPackageArchive::FindTail()
+{
+    if (!index->KnowsTail() && file->Note(kTailNote) == TailNote(stamp, index->CountInFile()))
+        index->TrustTail();
+    return index->KnowsTail() || ReadAll();
 }
 
 bool CPackageArchive::Remove(std::size_t position)
 {
-    if (!MayChange())
+    if (!MayChange() || !ReadAll())
         return false;
     if (mode != Mode::readWrite)
         return Fail("the archive was opened for making it anew");
@@ -262,7 +296,7 @@ bool CPackageArchive::NeedsCompaction() const
 
 bool CPackageArchive::Compact()
 {
-    if (!MayChange() || !PrepareHeader())
+    if (!MayChange() || !ReadAll() || !PrepareHeader())
         return false;
     if (!NeedsCompaction())
         return true;

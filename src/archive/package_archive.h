@@ -8,7 +8,8 @@
 // While it is open, the file is locked: shared when open for reading, else exclusive. A kill at any instant
 // and a full disk leave the state before an operation or the one after it. Opening, finding and adding cost
 // the same however many members there are, as long as this process saw the archive's latest state before;
-// otherwise finding reads the records up to the one that it finds.
+// otherwise finding reads the records up to the one that it finds, and adding reads them all unless the one
+// who changed the archive last could leave a note on the file (docs/decisions/0002-archive-index.md).
 //
 // One object, one thread, but for Abort. Nothing throws; every operation says whether it succeeded, and
 // Error tells why not. Indexes of members hold until Close.
@@ -111,6 +112,9 @@ private:
     bool Fail(const std::string& reason);
     bool FailAs(const std::string& what);
     bool MayChange();
+    bool FindTail();
+    bool ReadAll();
+    void KeepState();
     bool MayExtract(std::size_t position);
     bool PrepareHeader();
     bool WriteCount(std::uint32_t count);
@@ -128,7 +132,6 @@ private:
     Mode mode = Mode::read;
     std::unique_ptr<CPackageIndex> index;
     platform::FileStamp stamp;       // of the file as it was opened
-    bool indexFits = false;          // `index` describes the file as it is
     bool changed = false;            // the file, since it was opened
     std::set<std::size_t> newTexts;  // members whose texts in memory differ from the file's
     std::unique_ptr<CDeflater> deflater;

@@ -100,20 +100,20 @@ std::unique_ptr<platform::CFile> CPackageArchive::OpenSource(const std::string& 
 
 bool CPackageArchive::AddFile(const std::string& source, const AddOptions& options)
 {
-    if (!MayChange())
+    if (!MayChange() || !FindTail())
         return false;
-    if (Count() >= std::numeric_limits<std::uint32_t>::max() - 1)
+    if (index->CountToTail() >= std::numeric_limits<std::uint32_t>::max() - 1)
         return Fail("the archive holds as many members as it can");
     PackageMember member;
     const auto input = OpenSource(source, options, member);
     if (!input || !PrepareHeader())
         return false;
-    member.recordPosition = index->End();
-    const bool written = WriteMember(*input, member) && WriteCount(static_cast<std::uint32_t>(Count() + 1));
+    member.recordPosition = index->Tail();
+    const bool written = WriteMember(*input, member) && WriteCount(index->CountToTail() + 1);
     if (!written) {
         if (error.empty())
             FailAs("the archive cannot be written");
-        file->Truncate(index->End());
+        file->Truncate(member.recordPosition);
         changed = true;
         return false;
     }

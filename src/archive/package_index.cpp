@@ -122,7 +122,7 @@ try {
         PackageMember member = DecodeRecord(bytes);
         member.recordPosition = end;
         member.dataPosition = end + recordSize;
-        Append(std::move(member));
+        Take(std::move(member));
         if (name && !members.back().deleted && SameName(members.back().name, *name, match))
             break;
         ahead = wholeSize < kSmallMember ? kLongRead : kShortRead;
@@ -149,6 +149,14 @@ std::optional<std::size_t> CPackageIndex::Find(platform::CFile& file, const std:
 }
 
 void CPackageIndex::Append(PackageMember member)
+{
+    if (unreadEnd > 0)
+        unreadEnd = member.dataPosition + member.storedSize;
+    else
+        Take(std::move(member));
+}
+
+void CPackageIndex::Take(PackageMember member)
 {
     end = member.dataPosition + member.storedSize;
     holdsDeleted = holdsDeleted || member.deleted;

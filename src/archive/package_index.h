@@ -53,9 +53,18 @@ public:
     // The count that the file's header holds.
     std::uint32_t CountInFile() const { return countInFile; }
     bool HoldsDeleted() const { return holdsDeleted; }
+    // Whether it is known how many members the file holds and where the last one ends, read or not.
+    bool KnowsTail() const { return unreadEnd == 0 || tailIsTrusted; }
+    std::uint64_t Tail() const { return unreadEnd > 0 ? unreadEnd : end; }
+    std::uint32_t CountToTail() const
+    {
+        return unreadEnd > 0 ? countInFile : static_cast<std::uint32_t>(Count());
+    }
+    // The caller vouches that the unread records, as many as the header says, end where the file ends.
+    void TrustTail() { tailIsTrusted = true; }
     const PackageMember& Member(std::size_t index) const { return members[index]; }
 
-    // These follow what was done to the file, all of whose records were read.
+    // These follow what was done to the file, whose tail is known: a member was counted, then written at it.
     void CountWritten(std::uint32_t count) { countInFile = count; }
     void Append(PackageMember member);
     void MarkDeleted(std::size_t index);
@@ -69,6 +78,7 @@ private:
     };
     // Up to the first member that has the name and is not deleted, if a name is given.
     bool ReadOn(platform::CFile& file, const std::string* name, NameMatch match);
+    void Take(PackageMember member);
     std::optional<std::size_t> FindRead(const std::string& name, NameMatch match);
     void BuildTable(std::size_t buckets);
     void Enter(std::size_t index);
@@ -79,6 +89,7 @@ private:
     std::uint32_t countInFile;
     bool holdsDeleted = false;
     std::uint64_t unreadEnd = 0;  // of the records yet to be read: the file's size, or 0 when there are none
+    bool tailIsTrusted = false;
     std::deque<PackageMember> members;
     // Hash table over the names without regard to case, made when the first search in memory is due: each
     // bucket holds the number of its newest member, whose link leads to older ones.

@@ -64,6 +64,11 @@ public:
     virtual bool IsStill(const std::string& path) = 0;
     // Tells the system that the given range will be wanted soon.
     virtual void WillNeed(std::uint64_t offset, std::uint64_t length) = 0;
+    // A short text that goes with the file and is not part of its bytes or stamp; `name` is of letters and
+    // dashes. Copies may carry it along and others may change it, so it is a hint. False, or empty, where the
+    // file system keeps none.
+    virtual bool KeepNote(const std::string& name, const std::string& text) = 0;
+    virtual std::string Note(const std::string& name) = 0;
 };
 
 // An advisory lock that ends with the object, or with the process.

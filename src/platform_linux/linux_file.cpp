@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 namespace platform_linux
 {
@@ -18,6 +19,8 @@ namespace
 {
 
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
+const std::string kNotePrefix = "user.kelvo.";
+constexpr std::size_t kLongestNote = 256;
 
 // Offsets beyond off_t would turn negative.
 bool FitsOffset(std::uint64_t offset, std::uint64_t length)
@@ -221,6 +224,18 @@ void CLinuxFile::WillNeed(std::uint64_t offset, std::uint64_t length)
     if (FitsOffset(offset, length))
         (void)posix_fadvise(handle.Get(), static_cast<off_t>(offset), static_cast<off_t>(length),
                             POSIX_FADV_WILLNEED);
+}
+
+bool CLinuxFile::KeepNote(const std::string& name, const std::string& text)
+{
+    return fsetxattr(handle.Get(), (kNotePrefix + name).c_str(), text.data(), text.size(), 0) == 0 || Fail();
+}
+
+std::string CLinuxFile::Note(const std::string& name)
+{
+    char text[kLongestNote];
+    const ssize_t length = fgetxattr(handle.Get(), (kNotePrefix + name).c_str(), text, sizeof text);
+    return std::string(text, length > 0 ? static_cast<std::size_t>(length) : 0);
 }
 
 }  // namespace platform_linux

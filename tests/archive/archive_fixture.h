@@ -64,16 +64,18 @@ protected:
     {
         return target.AddFile(folder.Make(name, bytes), {.facts = archive::SourceFacts{1, 2, bytes.size()}});
     }
+    // The archive's path in a spelling not used before, for which this process has no index at hand.
+    std::string FreshPath() const
+    {
+        static std::size_t number = 0;
+        return folder.Path("./" + std::string(++number, '/') + "p.db");
+    }
     // "name=data" of each member that can be found and extracted, in order, as another process sees them.
     std::string Contents() const
     {
         archive::CPackageArchive fresh;
         fresh.SetPatience(0);
-        // A path not used before, so that no index is at hand.
-        static int number = 0;
-        const std::string other =
-            folder.Path("./" + std::string(static_cast<std::size_t>(++number), '/') + "p.db");
-        if (!fresh.Open(other, Mode::read))
+        if (!fresh.Open(FreshPath(), Mode::read))
             return "cannot be opened";
         std::string contents;
         for (std::size_t i = 0; i < fresh.Count(); ++i) {

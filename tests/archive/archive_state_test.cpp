@@ -38,16 +38,27 @@ protected:
          "a=hellonew b=hello "},
     };
 
-    void MakeArchive() const
+    // With the note that a first addition leaves, by which the next process adds, or without.
+    void MakeArchive(bool noted = false)
     {
         std::filesystem::remove(path);
         WriteBytes(path, HandMadeHeader(2) + HandMade{.name = "a", .caption = "old"}.Bytes() +
                              HandMade{.name = "b"}.Bytes());
+        if (noted)
+            Note(2);
+    }
+    void Note(std::uint32_t count)
+    {
+        const auto file = files.Open(path, platform::OpenMode::readWrite);
+        const auto stamp = file->Stamp();
+        file->KeepNote("archive-tail", std::to_string(stamp->size) + ' ' +
+                                           std::to_string(stamp->modifiedNanoseconds) + ' ' +
+                                           std::to_string(count));
     }
     // Runs the change on a fresh archive; whether it said that it succeeded.
-    bool Run(const Change& change, CFaultyFileSystem& faulty) const
+    bool Run(const Change& change, CFaultyFileSystem& faulty, bool noted = false)
     {
-        MakeArchive();
+        MakeArchive(noted);
         const support::CServicesGuard failing(faulty);
         CPackageArchive target;
         return target.Open(path, Mode::readWrite) && change.run(target);
@@ -60,12 +71,13 @@ TEST_F(ArchiveState, AFaultAtAnyStepLeavesTheOldStateOrTheNewOne)
 {
     for (const Change& change : changes) {
         for (const Fault fault : {Fault::fail, Fault::cutShort, Fault::stop}) {
-            for (std::size_t step = 0;; ++step) {
+            // Every other round goes by a note; each step is met both ways.
+            for (std::size_t round = 0, step = 0;; step = ++round / 2) {
                 CFaultyFileSystem faulty(files);
                 faulty.faultyStep = step;
                 faulty.fault = fault;
 
-                const bool done = Run(change, faulty);
+                const bool done = Run(change, faulty, round % 2 == 1);
 
                 const std::string contents = Contents();
                 EXPECT_TRUE(contents == change.after || (!done && contents == before))
@@ -179,6 +191,43 @@ TEST_F(ArchiveState, OpeningAgainReadsNoRecordsAndSeesEveryChange)
     WriteBytes(path, HandMadeHeader(1) + HandMade{.name = "other"}.Bytes());
     EXPECT_GT(readsOf("other"), 0U);
     EXPECT_EQ(target.Count(), 1U);
+}
+
+TEST_F(ArchiveState, AnotherProcessAddsByTheNoteIfItFitsTheFileAndNeverOverAMember)
+{
+    const std::string member = HandMade{.name = "a"}.Bytes();
+    const std::string damaged = HandMade{.claimedSize = 0xffffffff}.Bytes();
+    struct Case {
+        const char* title;
+        std::string bytes;
+        std::uint32_t noted;
+        std::size_t reads;  // of the header, the records and the source
+        std::string after, afterSecond;
+    };
+    const Case cases[] = {
+        {"true", HandMadeHeader(1) + member, 1, 2, "a=hello c=hello ", "a=hello c=hello c=hello "},
+        {"too few", HandMadeHeader(2) + member + member, 1, 3, "a=hello a=hello c=hello ",
+         "a=hello a=hello c=hello c=hello "},
+        {"too many", HandMadeHeader(1) + member, 2, 3, "a=hello c=hello ", "a=hello c=hello c=hello "},
+        {"silent on damage", HandMadeHeader(2) + member + damaged, 2, 2, "a=hello ", "a=hello c=hello "},
+    };
+    for (const Case& now : cases) {
+        WriteBytes(path, now.bytes);
+        Note(now.noted);
+        CFaultyFileSystem counting(files);
+        const support::CServicesGuard counted(counting);
+        CPackageArchive target;
+
+        EXPECT_TRUE(target.Open(FreshPath(), Mode::readWrite) && target.AddFile(source, {}));
+        EXPECT_EQ(counting.reads, now.reads) << now.title;
+        EXPECT_EQ(ReadBytes(path).substr(8, now.bytes.size() - 8), now.bytes.substr(8)) << now.title;
+        EXPECT_EQ(target.Find("c").has_value(), now.after.ends_with("c=hello ")) << now.title;
+        target.Close(false);
+        EXPECT_EQ(Contents(), now.after) << now.title;
+        EXPECT_TRUE(target.Open(FreshPath(), Mode::readWrite) && target.AddFile(source, {}));
+        target.Close(false);
+        EXPECT_EQ(Contents(), now.afterSecond) << now.title;
+    }
 }
 
 TEST_F(ArchiveState, AnArchiveReplacedWhileItWasAwaitedIsOpenedAnew)

@@ -52,6 +52,18 @@ TYPED_TEST(FileSystem, ReadsBackWhatWasWrittenAtAnyOffset)
     EXPECT_EQ(this->Read(*file, 0, 9), std::string("ab\0\0", 4));
 }
 
+TYPED_TEST(FileSystem, KeepsANoteWithTheFileThatChangesNeitherBytesNorStamp)
+{
+    const std::string path = this->folder.Make("file", "bytes");
+    const auto file = this->files.Open(path, OpenMode::readWrite);
+    const auto stamp = file->Stamp();
+
+    EXPECT_EQ(file->Note("a-note"), "");
+    const bool kept = file->KeepNote("a-note", "longer") && file->KeepNote("a-note", "text");
+    EXPECT_EQ(this->files.Open(path, OpenMode::read)->Note("a-note"), kept ? "text" : "");
+    EXPECT_EQ(file->Stamp(), stamp);
+}
+
 TYPED_TEST(FileSystem, OpensOnlyWhatTheModeAllows)
 {
     struct Case {

@@ -45,6 +45,11 @@ public:
     bool Lock(platform::LockKind kind, int patience) override { return inner->Lock(kind, patience); }
     bool IsStill(const std::string& path) override { return inner->IsStill(path); }
     void WillNeed(std::uint64_t offset, std::uint64_t length) override { inner->WillNeed(offset, length); }
+    bool KeepNote(const std::string& name, const std::string& text) override
+    {
+        return owner.Step() && inner->KeepNote(name, text);
+    }
+    std::string Note(const std::string& name) override { return inner->Note(name); }
 
 private:
     CFaultyFileSystem& owner;

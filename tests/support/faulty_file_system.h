@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // CFaultyFileSystem: another file system that fails where a test wants it to.
 //
-// Every call that would change a file is one step: WriteAt, Truncate, MarkChanged, SetFileTime, creating,
-// deleting, moving, copying or replacing a file, making a folder. Steps are counted from 0. A step that
-// fails changes nothing, but for a write that is cut short.
+// Every call that would change a file is one step: WriteAt, Truncate, MarkChanged, KeepNote, SetFileTime,
+// creating, deleting, moving, copying or replacing a file, making a folder. Steps are counted from 0. A step
+// that fails changes nothing, but for a write that is cut short.
 #pragma once
 
 #include "platform/file_system.h"

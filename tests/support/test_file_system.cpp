@@ -76,8 +76,19 @@ public:
                mine.st_ino == named.st_ino && mine.st_dev == named.st_dev;
     }
     void WillNeed(std::uint64_t, std::uint64_t) override {}
+    bool KeepNote(const std::string& name, const std::string& text) override
+    {
+        Notes()[{Stamp()->inode, name}] = text;
+        return true;
+    }
+    std::string Note(const std::string& name) override { return Notes()[{Stamp()->inode, name}]; }
 
 private:
+    static std::map<std::pair<std::uint64_t, std::string>, std::string>& Notes()
+    {
+        static std::map<std::pair<std::uint64_t, std::string>, std::string> notes;
+        return notes;
+    }
     int descriptor;
 };
 

@@ -3,7 +3,7 @@
 // CTestFileSystem: plain files for the tests of the logic, which link without the real implementation.
 //
 // It keeps the contract of platform::CFileSystem as far as tests need it: real files, real locks, no
-// durability (Sync does nothing) and creation times held in memory.
+// durability (Sync does nothing), creation times and notes held in memory.
 #pragma once
 
 #include "platform/file_system.h"
