@@ -3,6 +3,7 @@
 #include "app/kelvo_app.h"
 
 #include "app/data_folders.h"
+#include "app/string_table.h"
 #include "browser/file_names.h"
 #include "browser/interface_font.h"
 #include "platform/file_system.h"
@@ -51,6 +52,7 @@ StartResult CKelvoApp::InitInstance(const std::string& commandLine)
         message = "Class Registration Failed";
         return StartResult::failed;
     }
+    Strings().LoadResourceLibrary(fmt::format("{}/qrxKelvo.dll", programFolder));
     ReadFonts();
     StampRegistry();
     return StartResult::run;

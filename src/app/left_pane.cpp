@@ -10,6 +10,8 @@
 namespace app
 {
 
+using platform::StringId;
+
 Tab* CTabs::Find(int id)
 {
     for (Tab& tab : tabs) {
@@ -100,7 +102,7 @@ std::vector<Place> DevicePlaces(CDataFolders& dataFolders)
             favourites.children.push_back(FavouriteFolder(dataFolders, kind, placeKind));
         places.push_back(std::move(favourites));
     }
-    Place devices{PlaceKind::heading, "Devices", "", false, {}};
+    Place devices{PlaceKind::heading, "", "", false, {}, StringId::placeDevices};
     for (const platform::Volume& volume : platform::Os().shell->Volumes()) {
         if (volume.removable)
             devices.children.push_back(
@@ -115,8 +117,8 @@ std::vector<Place> FolderPlaces()
     std::vector<Place> places;
     platform::CShell& shell = *platform::Os().shell;
     if (const auto home = shell.GetFolderPath(platform::KnownFolder::home, false))
-        places.push_back({PlaceKind::home, "Home", *home, true, {}});
-    places.push_back({PlaceKind::fileSystem, "File System", "/", true, {}});
+        places.push_back({PlaceKind::home, "", *home, true, {}, StringId::placeHome});
+    places.push_back({PlaceKind::fileSystem, "", "/", true, {}, StringId::placeFileSystem});
     for (const platform::Volume& volume : shell.Volumes()) {
         if (volume.mountPoint != "/")
             places.push_back({volume.removable ? PlaceKind::removableVolume : PlaceKind::volume,

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/data_folders.h"
+#include "platform/string_ids.h"
 
 #include <array>
 #include <string>
@@ -22,7 +23,7 @@ inline constexpr int kSearchTab = 3;
 
 struct Tab {
     int id = 0;
-    std::string_view caption;
+    platform::StringId caption = platform::StringId::none;
     std::string_view image;  // file name in the skin's "Manager" folder
     bool checked = false;
     bool enabled = true;
@@ -44,9 +45,9 @@ public:
 private:
     Tab* Find(int id);
 
-    std::array<Tab, 3> tabs = {Tab{kDeviceTab, "Device", "favorite.png", true},
-                               Tab{kFolderTab, "Folder", "folder.png"},
-                               Tab{kSearchTab, "Search", "search.png"}};
+    std::array<Tab, 3> tabs = {Tab{kDeviceTab, platform::StringId::tabDevice, "favorite.png", true},
+                               Tab{kFolderTab, platform::StringId::tabFolder, "folder.png"},
+                               Tab{kSearchTab, platform::StringId::tabSearch, "search.png"}};
     TabMode mode = TabMode::device;
 };
 
@@ -87,10 +88,11 @@ enum class PlaceKind {
 // A line of a tree. A place with `subfolders` set has those of its folder below it, read when it is opened.
 struct Place {
     PlaceKind kind = PlaceKind::folder;
-    std::string label;
-    std::string path;  // without a trailing separator; empty for a heading
+    std::string label;  // empty when `caption` names it
+    std::string path;   // without a trailing separator; empty for a heading
     bool subfolders = false;
     std::vector<Place> children;
+    platform::StringId caption = platform::StringId::none;
 };
 
 // The favourite folders, each with its albums, then the removable volumes below a heading of their own.

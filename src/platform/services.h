@@ -17,6 +17,7 @@ class CMessages;
 class CUtility;
 class CImageLibrary;
 class CChangeNotifications;
+class CLibraries;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -27,6 +28,7 @@ struct Services {
     CUtility* utility = nullptr;
     CImageLibrary* images = nullptr;
     CChangeNotifications* changes = nullptr;  // null where nothing is watched
+    CLibraries* libraries = nullptr;
 };
 
 inline Services& Os()

@@ -6,6 +6,7 @@
 // suite's libraries and the messages of the desktop install themselves.
 #pragma once
 
+#include "platform_linux/dynamic_libraries.h"
 #include "platform_linux/linux_file_system.h"
 #include "platform_linux/linux_profiles.h"
 #include "platform_linux/linux_registry.h"
@@ -31,6 +32,7 @@ private:
     CLinuxRegistry registry;
     CLinuxProfiles profiles;
     CLinuxShell shell;
+    CDynamicLibraries libraries;
 };
 
 }  // namespace platform_linux

@@ -4,6 +4,7 @@
 
 #include "ui/media_list_model.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QHeaderView>
 #include <QStyledItemDelegate>
@@ -41,7 +42,7 @@ protected:
 CDetailsView::CDetailsView(QWidget* parent) : QTreeView(parent)
 {
     setObjectName(QStringLiteral("details"));
-    setAccessibleName(QStringLiteral("Files"));
+    setAccessibleName(Text(StringId::listFiles));
     setFrameShape(NoFrame);
     setRootIsDecorated(false);
     setUniformRowHeights(true);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/display_text.h"
 
+#include "ui/words.h"
+
 #include <QDateTime>
 #include <QLocale>
 
@@ -24,7 +26,7 @@ QString Shown(std::string_view bytes)
 QString SizeText(std::uint64_t bytes)
 {
     if (bytes == 1)
-        return QStringLiteral("1 byte");
+        return Text(StringId::statusOneByte);
     return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeTraditionalFormat);
 }
 
@@ -36,11 +38,6 @@ QString TimeText(platform::FileTime time)
     constexpr std::int64_t kEpoch = 11644473600000;
     const QDateTime moment = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time / 10000) - kEpoch);
     return QLocale().toString(moment, QLocale::ShortFormat);
-}
-
-QString CountText(std::size_t count, const QString& one, const QString& many)
-{
-    return QLocale().toString(static_cast<qulonglong>(count)) + QLatin1Char(' ') + (count == 1 ? one : many);
 }
 
 }  // namespace ui

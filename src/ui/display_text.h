@@ -20,7 +20,5 @@ QString Shown(std::string_view bytes);
 QString SizeText(std::uint64_t bytes);
 // Local date and time; empty for 0.
 QString TimeText(platform::FileTime time);
-// "1 file", "10,000 files".
-QString CountText(std::size_t count, const QString& one, const QString& many);
 
 }  // namespace ui

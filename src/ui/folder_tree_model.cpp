@@ -6,6 +6,7 @@
 #include "platform/services.h"
 #include "ui/display_text.h"
 #include "ui/icons.h"
+#include "ui/words.h"
 
 #include <QFont>
 
@@ -81,7 +82,7 @@ std::unique_ptr<CFolderTreeModel::Node> CFolderTreeModel::MakeNode(app::Place pl
     auto node = std::make_unique<Node>();
     node->kind = place.kind;
     node->path = std::move(place.path);
-    node->name = std::move(place.label);
+    node->name = place.caption == StringId::none ? std::move(place.label) : Text(place.caption).toStdString();
     node->subfolders = place.subfolders;
     node->parent = parent;
     for (app::Place& child : place.children)

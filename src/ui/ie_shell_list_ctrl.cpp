@@ -6,6 +6,7 @@
 #include "platform/services.h"
 #include "platform/shell.h"
 #include "ui/display_text.h"
+#include "ui/words.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -133,20 +134,17 @@ void CIEShellListCtrl::SayWhyEmpty()
     if (list.State() == browser::FillState::failed) {
         const bool missing = platform::Os().files->FindPresence(list.Folder()) == platform::Presence::missing;
         emptyState->Show(QStringLiteral("folder"),
-                         missing ? QStringLiteral("This folder is no longer there")
-                                 : QStringLiteral("You may not look into this folder"),
+                         Text(missing ? StringId::listFolderGone : StringId::listFolderForbidden),
                          Shown(list.Folder()) + QStringLiteral("\n") + Shown(list.FillError()));
     } else if (filler.IsReading() && Model().rowCount() == 0) {
-        emptyState->Show(QStringLiteral("folder-open"), QStringLiteral("Reading the folder..."), {});
+        emptyState->Show(QStringLiteral("folder-open"), Text(StringId::listReading), {});
     } else if (list.Count() == 0) {
         const bool everything = list.Filter() == browser::kFilterAllFiles;
         emptyState->Show(everything ? QStringLiteral("folder-open") : QStringLiteral("photo"),
-                         everything                               ? QStringLiteral("This folder is empty")
-                         : list.Filter() == browser::kFilterVideo ? QStringLiteral("No videos here")
-                                                                  : QStringLiteral("No pictures here"),
-                         everything ? QString()
-                                    : QStringLiteral("Other kinds of files are shown with "
-                                                     "View, Filter, All Files."));
+                         Text(everything                               ? StringId::listFolderEmpty
+                              : list.Filter() == browser::kFilterVideo ? StringId::listNoVideos
+                                                                       : StringId::listNoPictures),
+                         everything ? QString() : Text(StringId::listOtherKinds));
     } else {
         emptyState->Show({}, {}, {});
     }

@@ -5,6 +5,7 @@
 #include "ui/icons.h"
 #include "ui/main_menu.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QHBoxLayout>
 #include <QSlider>
@@ -38,11 +39,11 @@ QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent
 }  // namespace
 
 CIEShellListView::CIEShellListView(const std::string& storeFolder, const CMainMenu& menu, QWidget* parent)
-    : QWidget(parent), up(new QAction(QStringLiteral("Up"), this)), path(new CPathLabel(this)),
+    : QWidget(parent), up(new QAction(Text(StringId::placeUp), this)), path(new CPathLabel(this)),
       sizeControl(new QSlider(Qt::Horizontal, this)), ctrl(new CIEShellListCtrl(storeFolder, this))
 {
     up->setShortcuts({QKeySequence(QStringLiteral("Alt+Up")), QKeySequence(Qt::Key_Backspace)});
-    up->setToolTip(QStringLiteral("To the folder above (Alt+Up)"));
+    up->setToolTip(Text(StringId::placeUpTip));
     addAction(up);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -68,8 +69,8 @@ QWidget* CIEShellListView::MakeBar(const CMainMenu& menu)
     sizeControl->setPageStep(1);
     sizeControl->setFixedWidth(20 * kGrid);
     sizeControl->setFocusPolicy(Qt::TabFocus);
-    sizeControl->setAccessibleName(QStringLiteral("Thumbnail size"));
-    sizeControl->setToolTip(QStringLiteral("Thumbnail size"));
+    sizeControl->setAccessibleName(Text(StringId::listThumbnailSize));
+    sizeControl->setToolTip(Text(StringId::listThumbnailSize));
     auto* bar = new QWidget(this);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);

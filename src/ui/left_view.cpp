@@ -3,6 +3,7 @@
 #include "ui/left_view.h"
 
 #include "ui/empty_state.h"
+#include "ui/words.h"
 
 #include <QVBoxLayout>
 
@@ -11,7 +12,7 @@ namespace ui
 
 CLeftView::CLeftView(app::CDataFolders& dataFolders, QWidget* parent)
     : QWidget(parent), tabBar(new TabWindow(state.tabs, this)), panels(new QStackedWidget(this)),
-      deviceTree(new CFolderTree(app::DevicePlaces(dataFolders), QStringLiteral("Favourites and devices")))
+      deviceTree(new CFolderTree(app::DevicePlaces(dataFolders), Text(StringId::placeFavouritesAndDevices)))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -28,7 +29,7 @@ CLeftView::CLeftView(app::CDataFolders& dataFolders, QWidget* parent)
 CFolderTree* CLeftView::FolderTree()
 {
     if (!folderTree) {
-        folderTree = new CFolderTree(app::FolderPlaces(), QStringLiteral("Folders"));
+        folderTree = new CFolderTree(app::FolderPlaces(), Text(StringId::placeFolders));
         panels->addWidget(folderTree);
         connect(folderTree, &CFolderTree::FolderChosen, this, &CLeftView::SelectFolder);
     }
@@ -89,8 +90,7 @@ QWidget* CLeftView::MakeSearchPanel()
 {
     auto* panel = new CEmptyState(this);
     panel->setFocusPolicy(Qt::StrongFocus);
-    panel->Show(QStringLiteral("search"), QStringLiteral("No search yet"),
-                QStringLiteral("Searching by name, caption and date comes in a later version."));
+    panel->Show(QStringLiteral("search"), Text(StringId::searchNoneYet), Text(StringId::searchComesLater));
     return panel;
 }
 

@@ -7,6 +7,7 @@
 #include "ui/display_text.h"
 #include "ui/icons.h"
 #include "ui/item_painter.h"
+#include "ui/words.h"
 
 namespace ui
 {
@@ -14,16 +15,17 @@ namespace ui
 QString TypeText(const browser::MediaItem& item)
 {
     if (item.isFolder)
-        return QStringLiteral("Folder");
+        return Text(StringId::kindFolder);
     const QString extension = Shown(browser::Extension(item.name)).toUpper();
-    QString kind = QStringLiteral("file");
+    if (extension.isEmpty())
+        return Text(StringId::kindPlainFile);
     if (item.types & (browser::kTypePicture | browser::kTypeHandsetImage))
-        kind = QStringLiteral("picture");
-    else if (item.types & browser::kTypeVideo)
-        kind = QStringLiteral("video");
-    else if (item.types & browser::kTypeSound)
-        kind = QStringLiteral("sound");
-    return extension.isEmpty() ? QStringLiteral("File") : extension + QLatin1Char(' ') + kind;
+        return Text(StringId::kindPicture, extension);
+    if (item.types & browser::kTypeVideo)
+        return Text(StringId::kindVideo, extension);
+    if (item.types & browser::kTypeSound)
+        return Text(StringId::kindSound, extension);
+    return Text(StringId::kindFile, extension);
 }
 
 CMediaListModel::CMediaListModel(browser::CMediaFileList& mediaList, Columns shown, QObject* parent)
@@ -117,7 +119,7 @@ QVariant CMediaListModel::headerData(int section, Qt::Orientation orientation, i
         return int((section == sizeColumn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
-    static const QStringList headings = Shown(browser::kColumnHeadings).split(QLatin1Char('|'));
+    static const QStringList headings = Text(StringId::listColumnHeadings).split(QLatin1Char('|'));
     return headings.value(section);
 }
 

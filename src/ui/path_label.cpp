@@ -7,6 +7,7 @@
 #include "platform/shell.h"
 #include "ui/display_text.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QPainter>
 
@@ -21,15 +22,15 @@ CPathLabel::CPathLabel(QWidget* parent) : QWidget(parent)
 void CPathLabel::SetPath(const std::string& path)
 {
     parents.clear();
-    name = path == "/" ? QStringLiteral("File System") : Shown(browser::FileName(path));
+    name = path == "/" ? Text(StringId::placeFileSystem) : Shown(browser::FileName(path));
     std::string above = path == "/" ? std::string{} : std::string(browser::FolderOf(path));
     const std::string home =
         platform::Os().shell->GetFolderPath(platform::KnownFolder::home, false).value_or(std::string{});
     if (path == home)
-        name = QStringLiteral("Home");
+        name = Text(StringId::placeHome);
     while (!above.empty() && above != "/" && path != home) {
         if (above == home) {
-            parents.prepend(QStringLiteral("Home"));
+            parents.prepend(Text(StringId::placeHome));
             break;
         }
         parents.prepend(Shown(browser::FileName(above)));

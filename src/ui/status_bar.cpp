@@ -5,6 +5,7 @@
 #include "ui/display_text.h"
 #include "ui/style.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QPainter>
 
@@ -26,7 +27,7 @@ public:
     {
         setTextVisible(false);
         setFixedSize(30 * kGrid, kGrid);
-        setAccessibleName(QStringLiteral("Thumbnails"));
+        setAccessibleName(Text(StringId::statusThumbnails));
     }
 
 protected:
@@ -67,17 +68,13 @@ CStatusBar::CStatusBar(QWidget* parent)
 void CStatusBar::ShowFiles(CIEShellListCtrl& ctrl)
 {
     const browser::CMediaFileList& list = ctrl.List();
-    const QString one = QStringLiteral("file");
-    const QString many = QStringLiteral("files");
     if (ctrl.IsReading()) {
-        files->setText(QStringLiteral("Reading: %1").arg(CountText(list.FilledSoFar(), one, many)));
+        files->setText(Counted(StringId::statusReading, static_cast<qint64>(list.FilledSoFar())));
     } else {
         const int folders = FolderCount(list);
-        QString text = CountText(static_cast<std::size_t>(list.Count() - folders), one, many);
+        QString text = Counted(StringId::statusFiles, list.Count() - folders);
         if (folders > 0)
-            text = CountText(static_cast<std::size_t>(folders), QStringLiteral("folder"),
-                             QStringLiteral("folders")) +
-                   QStringLiteral(", ") + text;
+            text = Text(StringId::statusFoldersAndFiles, Counted(StringId::statusFolders, folders), text);
         if (list.Count() > 0 && list.AllFactsKnown())
             text += kDot + SizeText(list.KnownBytes());
         files->setText(text);
@@ -85,7 +82,7 @@ void CStatusBar::ShowFiles(CIEShellListCtrl& ctrl)
     const SelectionFacts chosen = ctrl.Selection();
     QString text;
     if (chosen.files > 0)
-        text = QStringLiteral("%1 selected").arg(QLocale().toString(chosen.files));
+        text = Counted(StringId::statusSelected, chosen.files);
     if (chosen.files > 0 && chosen.complete)
         text += kDot + SizeText(chosen.bytes);
     selection->setText(text);
@@ -99,10 +96,7 @@ void CStatusBar::ShowThumbnails(const CIEShellListCtrl& ctrl)
     progress->setVisible(left > 0);
     progress->setRange(0, std::max(most, 1));
     progress->setValue(most - left);
-    thumbnailsLeft->setText(left == 0 ? QString()
-                                      : QStringLiteral("%1 left").arg(CountText(
-                                            static_cast<std::size_t>(left), QStringLiteral("thumbnail"),
-                                            QStringLiteral("thumbnails"))));
+    thumbnailsLeft->setText(left == 0 ? QString() : Counted(StringId::statusThumbnailsLeft, left));
 }
 
 }  // namespace ui

@@ -6,6 +6,7 @@
 #include "ui/icons.h"
 #include "ui/style.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -73,7 +74,7 @@ TabWindow::TabWindow(const app::CTabs& tabs, QWidget* parent) : QWidget(parent),
     row->setSpacing(0);
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         const app::Tab& tab = state.All()[i];
-        buttons[i] = new CTabButton(Shown(tab.caption), QString::fromLatin1(drawings[i]), this);
+        buttons[i] = new CTabButton(Text(tab.caption), QString::fromLatin1(drawings[i]), this);
         connect(buttons[i], &QAbstractButton::clicked, this, [this, id = tab.id] {
             // The state decides which tab is down.
             Update();

@@ -3,6 +3,7 @@
 #include "ui/thumbnail_view.h"
 
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -22,7 +23,7 @@ CThumbnailView::CThumbnailView(const browser::CMediaFileList& mediaList, QWidget
     : QListView(parent), list(mediaList)
 {
     setObjectName(QStringLiteral("thumbnails"));
-    setAccessibleName(QStringLiteral("Files"));
+    setAccessibleName(Text(StringId::listFiles));
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setFrameShape(NoFrame);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/left_pane.h"
+#include "app/string_table.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +23,9 @@ std::string Outline(const std::vector<app::Place>& places)
 {
     std::string text;
     for (const app::Place& place : places) {
-        text += (text.empty() ? "" : " ") + place.label;
+        const std::string label =
+            place.label.empty() ? app::Strings().LoadString(place.caption) : place.label;
+        text += (text.empty() ? "" : " ") + label;
         if (!place.children.empty())
             text += "(" + Outline(place.children) + ")";
     }

@@ -4,6 +4,7 @@
 #include "support/test_services.h"
 #include "ui/display_text.h"
 #include "ui/printer_defaults.h"
+#include "ui/words.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -30,8 +31,8 @@ TEST(DisplayText, SizesTimesAndCountsAreInTheUsersWords)
 {
     EXPECT_EQ(ui::SizeText(1), QStringLiteral("1 byte"));
     EXPECT_EQ(ui::SizeText(4'404'019), QStringLiteral("4.2 MB"));
-    EXPECT_EQ(ui::CountText(1, QStringLiteral("file"), QStringLiteral("files")), QStringLiteral("1 file"));
-    EXPECT_EQ(ui::CountText(0, QStringLiteral("file"), QStringLiteral("files")), QStringLiteral("0 files"));
+    EXPECT_EQ(ui::Counted(ui::StringId::statusFiles, 1), QStringLiteral("1 file"));
+    EXPECT_EQ(ui::Counted(ui::StringId::statusFiles, 0), QStringLiteral("0 files"));
 
     // 2004-05-17 12:00 UTC, shown as local time.
     const platform::FileTime noon = (1'084'795'200ULL + 11'644'473'600ULL) * 10'000'000;

@@ -15,6 +15,7 @@
 #include "ui/shot.h"
 #include "ui/solo_messages.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -163,5 +164,6 @@ int main(int argc, char** argv)
     // Qt sees none of the words: the paths among them are bytes, not text.
     int qtCount = 1;
     const QApplication qtApplication(qtCount, argv);
+    ui::InstallTranslations(QString::fromStdString(services.ProgramFolder()));
     return task == ui::Task::shot ? RunShot(program) : RunInstance(program);
 }
