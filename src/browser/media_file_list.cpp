@@ -5,6 +5,7 @@
 
 #include "browser/file_names.h"
 #include "platform/services.h"
+#include "platform/utility.h"
 
 #include <algorithm>
 #include <iterator>
@@ -51,6 +52,8 @@ bool CMediaFileList::StartFill(const std::string& folderPath)
     runs.clear();
     incomingCount = 0;
     readerAtEnd = false;
+    incomingRead = 0;
+    fillStart = platform::Os().utility->GetTickCount();
     fillError.clear();
     if (folderPath != folder) {
         items.clear();
@@ -85,7 +88,7 @@ bool CMediaFileList::FillStep()
         MergeTopRuns();
     } else if (!readerAtEnd) {
         ReadChunk();
-    } else {
+    } else if (!ReadIncoming()) {
         EndFill();
     }
     return state == FillState::reading;
@@ -149,11 +152,16 @@ bool CMediaFileList::Wanted(const platform::FolderEntry& entry) const
 void CMediaFileList::TakeOver(std::vector<MediaItem> filled)
 {
     CarryBitmaps(filled);
+    CarryFacts(filled);
     items = std::move(filled);
+    for (std::uint32_t rank = 0; MediaItem & item : items) {
+        item.nameRank = rank++;
+    }
     pendingThumbItems.clear();
     heldBitmaps.clear();
     nextThumbItem = 0;
     nextFactsItem = 0;
+    nextDateItem = 0;
     knownBytes = 0;
     thumbnailsLeft = 0;
     for (int i = 0; i < Count(); ++i) {
@@ -163,6 +171,13 @@ void CMediaFileList::TakeOver(std::vector<MediaItem> filled)
         if (item.thumbnail) {
             heldBitmaps.push_back(i);
         }
+    }
+    unsorted = order != SortOrder{};
+    if (unsorted) {
+        // By what is known so far where there is more to be read.
+        const bool mustRead = MustRead();
+        Arrange(OrderOf(items, order));
+        unsorted = mustRead;
     }
 }
 
@@ -212,39 +227,6 @@ bool CMediaFileList::SetFilter(int mode, int includeFolders)
 std::string CMediaFileList::PathOf(int index) const
 {
     return JoinPath(folder, Item(index).name);
-}
-
-void CMediaFileList::SetFacts(MediaItem& item, const platform::FileFacts& facts)
-{
-    if (!item.isFolder) {
-        knownBytes += facts.size - (item.factsKnown ? item.fileSize : 0);
-        item.fileSize = facts.size;
-    }
-    item.creationTime = facts.creationTime;
-    item.lastWriteTime = facts.lastWriteTime;
-    item.factsKnown = true;
-}
-
-bool CMediaFileList::ReadFacts(int index)
-{
-    MediaItem& item = items[static_cast<std::size_t>(index)];
-    if (item.factsKnown) {
-        return true;
-    }
-    const auto facts = platform::Os().files->FindFirstFile(PathOf(index));
-    if (facts) {
-        SetFacts(item, *facts);
-    }
-    return facts.has_value();
-}
-
-bool CMediaFileList::FactsStep(int most)
-{
-    const int end = std::min(Count(), nextFactsItem + most);
-    for (; nextFactsItem < end; ++nextFactsItem) {
-        ReadFacts(nextFactsItem);
-    }
-    return nextFactsItem < Count();
 }
 
 }  // namespace browser

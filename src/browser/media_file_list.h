@@ -4,12 +4,14 @@
 //
 // This is the list without its window. The owner calls FillStep until the folder is read, then ThumbnailStep
 // on each tick of its timer; each call does a small piece of work (at most one thumbnail), so that a window
-// stays live on one thread. Items are ordered by name (NameBefore), folders first.
+// stays live on one thread. Items are in the list's sort order, folders first; names are compared by
+// NameBefore.
 //
-// Item indexes hold until the next fill ends. Bitmaps of items far from the visible ones are let go when
-// there are too many and come back from the store when they are visible again.
+// Item indexes hold until the next fill ends or the order changes. Bitmaps of items far from the visible ones
+// are let go when there are too many and come back from the store when they are visible again.
 #pragma once
 
+#include "browser/list_order.h"
 #include "browser/media_types.h"
 #include "browser/thumb_db_mgr.h"
 #include "browser/thumbnail_store.h"
@@ -31,6 +33,8 @@ struct MediaItem {
     platform::FileTime creationTime = 0;
     platform::FileTime lastWriteTime = 0;
     platform::FileTime thirdTime = 0;
+    platform::FileTime dateTaken = 0;  // as date_taken.h has it
+    std::uint32_t nameRank = 0;        // the item's place in name order
     platform::BitmapHandle thumbnail;  // empty until made, and again when let go
     std::uint8_t types = 0;
     bool isFolder = false;
@@ -38,7 +42,8 @@ struct MediaItem {
     bool needsThumbnail = false;
     bool thumbnailDone = false;    // made once, whether or not the bitmap is still held
     bool thumbnailFailed = false;  // the latest attempt gave none
-    bool factsKnown = false;       // size and times have been read
+    bool factsKnown = false;       // size and times have been read; until then they may be older ones
+    bool dateKnown = false;        // whether the picture tells when it was taken has been looked up
 };
 
 // A store entry whose three texts are to be set when there is nothing else to do.
@@ -93,6 +98,20 @@ public:
     const std::string& FillError() const { return fillError; }
     std::size_t FilledSoFar() const { return incomingCount; }
 
+    // --- Order -------------------------------------------------------------------------------------------
+    // Sorts the items, or, where the files have yet to be asked for what is sorted by, leaves them as they
+    // are until FactsStep has asked all of them and SortIsDue. True when the items were sorted. A fill reads
+    // what it can in a fraction of a second before it ends, so that few lists are seen unsorted.
+    bool SetOrder(SortOrder wanted);
+    SortOrder Order() const { return order; }
+    // Whether the items stand in another order than the one asked for.
+    bool IsUnsorted() const { return unsorted; }
+    // Whether they do and Sort would bring them into it.
+    bool SortIsDue() const { return unsorted && !MustRead(); }
+    void Sort();
+    // Whether FactsStep also looks up when pictures were taken; it always does for an order that needs it.
+    void SetDatesWanted(bool on) { datesWanted = on; }
+
     // Either argument may be kKeep. True when something changed, so that the list is to be read anew.
     bool SetFilter(int mode, int includeFolders);
     int Filter() const { return filter; }
@@ -107,11 +126,18 @@ public:
     std::string PathOf(int index) const;
     // Reads size and times of the item unless they are known; false when the file is gone.
     bool ReadFacts(int index);
-    // Reads the facts of the next items that lack them; true while there are more.
+    // Looks up when the picture was taken unless that is known.
+    void ReadDate(int index);
+    // Reads the facts of the next items that lack them, then, where wanted, the dates (a tenth as many, as
+    // each opens a file); true while there are more.
     bool FactsStep(int most);
     // The sum of the sizes read so far, and whether it covers every item.
     std::uint64_t KnownBytes() const { return knownBytes; }
     bool AllFactsKnown() const { return nextFactsItem >= Count(); }
+    // Whether there is nothing left for FactsStep.
+    bool AllRead() const { return AllFactsKnown() && (nextDateItem >= Count() || !DatesAreWanted()); }
+    // How many items FactsStep has asked for what the list is to be sorted by.
+    int ReadForOrder() const { return NeedsOf(order.key) == SortNeeds::dates ? nextDateItem : nextFactsItem; }
 
     // --- Thumbnails --------------------------------------------------------------------------------------
     // One tick: the first visible item without a thumbnail, else the next one of the rest, else the deferred
@@ -135,7 +161,15 @@ private:
     void ReadChunk();
     bool MergeIsDue() const;
     void MergeTopRuns();
+    bool ReadIncoming();
     void EndFill();
+    void CarryFacts(std::vector<MediaItem>& filled) const;
+    static void TakeFacts(MediaItem& item, const platform::FileFacts& facts);
+    static void TakeDate(MediaItem& item, const std::string& path);
+    bool DatesAreWanted() const { return datesWanted || NeedsOf(order.key) == SortNeeds::dates; }
+    bool MustRead() const;
+    bool HasOrderKey(const MediaItem& item) const;
+    void Arrange(const std::vector<std::uint32_t>& indexes);
     bool Wanted(const platform::FolderEntry& entry) const;
     std::optional<std::string> ThumbnailSource(int index) const;
     void SetFacts(MediaItem& item, const platform::FileFacts& facts);
@@ -159,6 +193,13 @@ private:
     std::vector<std::vector<MediaItem>> runs;  // sorted pieces of the folder being read
     std::size_t incomingCount = 0;
     bool readerAtEnd = false;
+    std::size_t incomingRead = 0;  // of the last run, items whose facts have been read
+    std::uint64_t fillStart = 0;   // milliseconds
+
+    SortOrder order;
+    bool unsorted = false;
+    bool datesWanted = false;
+    int nextDateItem = 0;
 
     std::uint64_t knownBytes = 0;
     int nextFactsItem = 0;

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace cli
 {
@@ -20,26 +21,44 @@ struct ListArguments {
     std::string folder;
     int filter = browser::kFilterMedia;
     bool includeFolder = false;
+    std::string sort;  // empty for names alone, folders among the files
+    bool descending = false;
 };
+
+// The items' indexes as they are to be told.
+std::vector<int> TellingOrder(const browser::CMediaFileList& list, const ListArguments& arguments)
+{
+    std::vector<int> order(static_cast<std::size_t>(list.Count()));
+    std::iota(order.begin(), order.end(), 0);
+    if (arguments.sort.empty()) {
+        std::ranges::sort(order, [&list](int left, int right) {
+            return browser::NameBefore(list.Item(left).name, list.Item(right).name);
+        });
+        if (arguments.descending) {
+            std::ranges::reverse(order);
+        }
+    }
+    return order;
+}
 
 void RunList(CContext& context, const ListArguments& arguments)
 {
     browser::CMediaFileList list;
     list.SetFilter(arguments.filter, arguments.includeFolder ? 1 : 0);
+    if (const auto key = browser::SortKeyNamed(arguments.sort)) {
+        list.SetOrder({*key, arguments.descending});
+    }
     if (!list.Fill(AbsolutePath(arguments.folder))) {
         context.Fail(arguments.folder, list.FillError());
         return;
     }
-    std::vector<int> order;
-    for (int i = 0; i < list.Count(); ++i) {
-        list.ReadFacts(i);
-        order.push_back(i);
+    while (list.FactsStep(1000)) {
     }
-    std::ranges::sort(order, [&list](int left, int right) {
-        return browser::NameBefore(list.Item(left).name, list.Item(right).name);
-    });
+    if (list.SortIsDue()) {
+        list.Sort();
+    }
     Json items = Json::array();
-    for (const int index : order) {
+    for (const int index : TellingOrder(list, arguments)) {
         const browser::MediaItem& item = list.Item(index);
         const std::string modified = FileTimeText(item.lastWriteTime);
         if (context.json) {
@@ -88,6 +107,9 @@ void AddListCommands(CLI::App& parser, CContext& context)
     list->add_option("DIR", listArguments->folder, "The folder")->required();
     AddFilterOptions(*list, listArguments->filter);
     list->add_flag("--include-folder", listArguments->includeFolder, "List sub-folders too");
+    list->add_option("--sort", listArguments->sort, "Sorted as the window does, folders first")
+        ->check(CLI::IsMember({"name", "size", "type", "modified", "taken"}));
+    list->add_flag("--descending", listArguments->descending, "The other way round");
     list->callback([&context, listArguments] { RunList(context, *listArguments); });
 
     auto* fileList = parser.add_subcommand("filelist", "Write a list file");

@@ -10,6 +10,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace platform
 {
@@ -27,6 +29,8 @@ public:
     virtual bool SetValue(const std::string& key, const std::string& name, const std::string& value) = 0;
     virtual bool DeleteValue(const std::string& key, const std::string& name) = 0;
 };
+
+using ProfileValues = std::vector<std::pair<std::string, std::string>>;  // keys and their values
 
 // INI files: "[section]" lines and "key=value" lines, both compared without regard to case. A write keeps
 // every other line, the order and the comments. A file inside a program folder that may not be written is
@@ -47,6 +51,16 @@ public:
     // the file is then as it was.
     virtual bool WritePrivateProfileString(const std::string& section, const std::string& key,
                                            const std::string& value, const std::string& file) = 0;
+    // Sets several values of one section in the order given. An implementation may do so in one step; in this
+    // one each value is written by itself. False when any of them could not be written.
+    virtual bool WritePrivateProfileValues(const std::string& section, const ProfileValues& values,
+                                           const std::string& file)
+    {
+        bool written = true;
+        for (const auto& [key, value] : values)
+            written = WritePrivateProfileString(section, key, value, file) && written;
+        return written;
+    }
 };
 
 }  // namespace platform

@@ -109,7 +109,16 @@ bool CLinuxProfiles::WriteUserCopy(const std::string& copy, const std::string& o
 bool CLinuxProfiles::WritePrivateProfileString(const std::string& section, const std::string& key,
                                                const std::string& value, const std::string& file)
 {
-    const auto change = [&](CIniText& text) { return text.Set(section, key, Quoted(value)); };
+    return WritePrivateProfileValues(section, {{key, value}}, file);
+}
+
+bool CLinuxProfiles::WritePrivateProfileValues(const std::string& section,
+                                               const platform::ProfileValues& values, const std::string& file)
+{
+    const auto change = [&](CIniText& text) {
+        return std::ranges::all_of(
+            values, [&](const auto& entry) { return text.Set(section, entry.first, Quoted(entry.second)); });
+    };
     const std::string copy = UserCopyOf(file);
     if (!copy.empty() && access(Native(copy), F_OK) == 0)
         return files.Change(copy, change);

@@ -28,6 +28,9 @@ public:
                               const std::string& file) override;
     bool WritePrivateProfileString(const std::string& section, const std::string& key,
                                    const std::string& value, const std::string& file) override;
+    // All of them in one replacement of the file, or none.
+    bool WritePrivateProfileValues(const std::string& section, const platform::ProfileValues& values,
+                                   const std::string& file) override;
 
 private:
     std::optional<std::string> Find(const std::string& section, const std::string& key,
