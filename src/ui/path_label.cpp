@@ -71,12 +71,18 @@ void CPathLabel::paintEvent(QPaintEvent*)
         }
         before = longer;
     }
+    // A path reads from left to right in every language; only its place follows the layout.
+    painter.setLayoutDirection(Qt::LeftToRight);
+    const int beforeWidth = fontMetrics().horizontalAdvance(before);
+    QRect box = rect();
+    if (isRightToLeft())
+        box.setLeft(room - beforeWidth);
     painter.setPen(CTheme::Colours().dimText);
-    painter.drawText(rect(), Qt::AlignVCenter | Qt::TextSingleLine, before);
+    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, before);
     painter.setFont(strong);
     painter.setPen(CTheme::Colours().text);
-    painter.drawText(rect().adjusted(fontMetrics().horizontalAdvance(before), 0, 0, 0),
-                     Qt::AlignVCenter | Qt::TextSingleLine, nameText);
+    painter.drawText(box.adjusted(beforeWidth, 0, 0, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, nameText);
 }
 
 }  // namespace ui
