@@ -18,6 +18,7 @@ class CUtility;
 class CImageLibrary;
 class CChangeNotifications;
 class CLibraries;
+class CSkinHook;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -29,6 +30,7 @@ struct Services {
     CImageLibrary* images = nullptr;
     CChangeNotifications* changes = nullptr;  // null where nothing is watched
     CLibraries* libraries = nullptr;
+    CSkinHook* skinHook = nullptr;  // null in programs without a window
 };
 
 inline Services& Os()

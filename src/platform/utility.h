@@ -22,6 +22,14 @@ struct FileVersion {
     std::uint16_t revision = 0;
 };
 
+// A font as the skinned controls take it.
+struct LogFont {
+    std::string faceName;
+    int height = 0;  // pixels at normal density
+    int characterSet = 0;
+    bool operator==(const LogFont&) const = default;
+};
+
 class CUtility
 {
 public:
@@ -42,7 +50,11 @@ public:
                                     const std::string& file, ColorRef& out) = 0;
     virtual bool ql_GetSettingSize(const std::string& section, const std::string& key,
                                    const std::string& file, Extent& out) = 0;
+    // The interface's font, which stands in for what a font group leaves out.
     virtual void ql_SetFontInfo(const std::string& faceName, int size, int characterSet) = 0;
+    // The font of a font group: face and height as read; an empty face, or a height that nobody could read,
+    // is the interface's.
+    virtual LogFont ql_GetLogfont(const std::string& faceName, int size) = 0;
     // Milliseconds on a clock that only goes forward.
     virtual std::uint64_t GetTickCount() = 0;
     // A line for the developer: shown on standard error when KELVO_TRACE is set, otherwise dropped.

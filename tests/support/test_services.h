@@ -117,6 +117,10 @@ public:
     {
         trace += "font " + faceName + " " + std::to_string(size) + "\n";
     }
+    platform::LogFont ql_GetLogfont(const std::string& faceName, int size) override
+    {
+        return {faceName, size, 1};
+    }
     std::uint64_t GetTickCount() override { return now; }
     void OutputDebugString(const std::string& text) override { trace += text; }
 

@@ -138,6 +138,14 @@ void CUtilityLibrary::ql_SetFontInfo(const std::string& faceName, int size, int 
     font = {faceName, size, characterSet};
 }
 
+platform::LogFont CUtilityLibrary::ql_GetLogfont(const std::string& faceName, int size)
+{
+    constexpr int kLeastHeight = 6;
+    constexpr int kMostHeight = 72;
+    const bool readable = size >= kLeastHeight && size <= kMostHeight;
+    return {faceName.empty() ? font.faceName : faceName, readable ? size : font.height, font.characterSet};
+}
+
 std::uint64_t CUtilityLibrary::GetTickCount()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();

@@ -12,13 +12,6 @@
 namespace suite
 {
 
-// What ql_SetFontInfo was given last.
-struct FontInfo {
-    std::string faceName;
-    int size = 0;
-    int characterSet = 0;
-};
-
 class CUtilityLibrary final : public platform::CUtility
 {
 public:
@@ -40,14 +33,13 @@ public:
     bool ql_GetSettingSize(const std::string& section, const std::string& key, const std::string& file,
                            platform::Extent& out) override;
     void ql_SetFontInfo(const std::string& faceName, int size, int characterSet) override;
+    platform::LogFont ql_GetLogfont(const std::string& faceName, int size) override;
     std::uint64_t GetTickCount() override;
     void OutputDebugString(const std::string& text) override;
 
-    const FontInfo& Font() const { return font; }
-
 private:
     std::string folder;
-    FontInfo font;
+    platform::LogFont font;  // what ql_SetFontInfo was given last
 };
 
 }  // namespace suite
