@@ -6,6 +6,7 @@
 #include "browser/media_types.h"
 #include "platform/services.h"
 #include "platform/shell.h"
+#include "ui/controls/skin.h"
 #include "ui/display_text.h"
 #include "ui/icons.h"
 #include "ui/printer_defaults.h"
@@ -38,6 +39,7 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
       right(new CIEShellListView(owner.DbFolder(), *menu)), status(new CStatusBar(this))
 {
+    UseSkin(owner.SkinFolder());
     LoadSettings();
     const std::string caption = owner.Caption();
     setWindowTitle(Shown(caption.empty() ? owner.Title() : caption));

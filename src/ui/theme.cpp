@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/theme.h"
 
+#include "ui/controls/skin.h"
 #include "ui/style.h"
 
 #include <QApplication>
@@ -112,7 +113,14 @@ void CTheme::TakeColourScheme(const QVariant& value)
 void CTheme::Apply(bool dark)
 {
     darkNow = dark;
-    QApplication::setPalette(PaletteOf(Colours()));
+    // First, since widgets look at the skin when the palette reaches them.
+    RefreshSkin();
+    QApplication::setPalette(Palette());
+}
+
+QPalette CTheme::Palette()
+{
+    return PaletteOf(Colours());
 }
 
 bool CTheme::IsDark()

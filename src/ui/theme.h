@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QObject>
+#include <QPalette>
 
 class QDBusVariant;
 
@@ -40,6 +41,7 @@ public:
     void FollowDesktop();
     static bool IsDark();
     static const ThemeColours& Colours();
+    static QPalette Palette();
 
 private Q_SLOTS:
     void OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);

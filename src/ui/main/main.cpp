@@ -9,6 +9,7 @@
 #include "suite/image/image_library.h"
 #include "suite/utility/utility_library.h"
 #include "ui/command_line.h"
+#include "ui/controls/skin_colours.h"
 #include "ui/display_text.h"
 #include "ui/icons.h"
 #include "ui/main_frame.h"
@@ -65,6 +66,8 @@ void OpenFirstFolder(ui::CMainFrame& frame, const ui::CommandLine& line)
 // The window's life, from its making to the end of the event loop.
 int RunWindow(Program& program)
 {
+    ui::CSkinColours skinColours;
+    platform::Os().skinHook = &skinColours;
     ui::CTheme theme;
     ui::CMainFrame frame(program.application, program.dataFolders);
     frame.setWindowIcon(ui::ThemedIcon(QStringLiteral("kelvo")));
@@ -78,6 +81,8 @@ int RunWindow(Program& program)
 
 int TakeShot(Program& program)
 {
+    ui::CSkinColours skinColours;
+    platform::Os().skinHook = &skinColours;
     ui::CTheme theme;
     ui::CMainFrame frame(program.application, program.dataFolders);
     frame.resize(program.commandLine.shotSize.width, program.commandLine.shotSize.height);
