@@ -9,7 +9,6 @@
 #include "platform/services.h"
 
 #include <array>
-#include <mutex>
 
 namespace archive
 {
@@ -20,9 +19,6 @@ namespace
 constexpr int kMostReopenings = 1000;
 // Says of the file with which stamp and count its last member ends where the file ends.
 constexpr const char* kTailNote = "archive-tail";
-constexpr const char* kCompactionFile = "/~zip~temp~file~.vy";
-// Beside the archive, for one too large for the temporary folder.
-constexpr const char* kSpareSuffix = "~";
 
 platform::CFileSystem& Files()
 {
@@ -300,49 +296,26 @@ bool CPackageArchive::Compact()
         return false;
     if (!NeedsCompaction())
         return true;
-    // One temporary file serves the whole process.
-    static std::mutex oneAtATime;
-    const std::lock_guard hold(oneAtATime);
-    const std::string folder = Files().GetTempPath();
-    // The temporary folder may be too small for a large archive; then its own folder serves.
-    return (!folder.empty() && CompactThrough(folder + kCompactionFile)) ||
-           CompactThrough(archivePath + kSpareSuffix);
-}
-
-bool CPackageArchive::CompactThrough(const std::string& temporary)
-{
-    auto target = Files().Open(temporary, platform::OpenMode::create);
-    if (!target)
-        return FailAs("the temporary file cannot be made");
-    auto compacted = WriteCompacted(*file, *index, newTexts, *target);
-    const auto written = target->Stamp();
-    bool done = compacted && written;
-    if (!done)
-        FailAs("the temporary file cannot be written");
-    target.reset();
-    if (done && !file->IsStill(archivePath))
-        done = Fail("the archive was replaced or deleted by another program");
+    const auto replacement = Files().BeginReplacement(archivePath);
+    if (!replacement)
+        return FailAs("the archive cannot be replaced");
+    platform::CFile& target = replacement->File();
+    auto compacted = WriteCompacted(*file, *index, newTexts, target);
+    if (!compacted)
+        return FailAs("the new archive cannot be written");
+    const auto written = target.MarkChanged() ? target.Stamp() : std::nullopt;
+    if (written)
+        KeepTailNote(target, *written, *compacted);
+    if (!file->IsStill(archivePath))
+        return Fail("the archive was replaced or deleted by another program");
     // The lock is held until the new file is in its place: whoever waits for it then finds that the name
     // stands for another file, and opens that one.
-    if (done && !Files().CopyFile(temporary, archivePath))
-        done = FailAs("the archive cannot be replaced");
-    Files().DeleteFile(temporary);
-    if (done)
-        KeepCompacted(*written, std::move(compacted));
-    return done;
-}
-
-// The copy carries the size and the modification time of what was written, unless another process has
-// changed it already.
-void CPackageArchive::KeepCompacted(const platform::FileStamp& written,
-                                    std::unique_ptr<CPackageIndex> compacted)
-{
-    const auto replaced = Files().Open(archivePath, platform::OpenMode::read);
-    const auto present = replaced ? replaced->Stamp() : std::nullopt;
-    if (present && present->size == written.size &&
-        present->modifiedNanoseconds == written.modifiedNanoseconds)
-        KeepIndex(archivePath, *present, std::move(compacted));
+    if (!replacement->Commit())
+        return FailAs("the archive cannot be replaced");
+    if (written)
+        KeepIndex(archivePath, *written, std::move(compacted));
     file.reset();
+    return true;
 }
 
 }  // namespace archive

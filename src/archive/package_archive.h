@@ -123,8 +123,6 @@ private:
     bool WriteMember(platform::CFile& source, PackageMember& member);
     bool NeedsCompaction() const;
     bool Compact();
-    bool CompactThrough(const std::string& temporary);
-    void KeepCompacted(const platform::FileStamp& written, std::unique_ptr<CPackageIndex> compacted);
     void Forget();
 
     std::unique_ptr<platform::CFile> file;

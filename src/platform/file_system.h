@@ -71,6 +71,19 @@ public:
     virtual std::string Note(const std::string& name) = 0;
 };
 
+// A file that is written out of sight to take the place of another once it is whole. Nothing is left of one
+// that was not committed.
+class CReplacement
+{
+public:
+    virtual ~CReplacement() = default;
+    // Empty at first, and best written from its beginning to its end. It lives as long as the replacement.
+    virtual CFile& File() = 0;
+    // At any instant, the path holds the old bytes or all of the new ones, which are on the medium before the
+    // old ones go. To be called once, after the last write.
+    virtual bool Commit() = 0;
+};
+
 // An advisory lock that ends with the object, or with the process.
 class CLock
 {
@@ -136,6 +149,9 @@ public:
     // Writes `bytes` to `path` so that it holds its old bytes or all of the new ones, whatever happens.
     // A link is followed: what it points to is replaced.
     virtual bool ReplaceFile(const std::string& path, std::span<const std::byte> bytes) = 0;
+    // The same, piece by piece; null when nothing can be put in that place. What belongs to the old file and
+    // not to its bytes (mode, owner, creation time) stays as far as can be, but for the notes.
+    virtual std::unique_ptr<CReplacement> BeginReplacement(const std::string& path) = 0;
     // The whole file, or nothing when it cannot be read or is longer than `most` bytes.
     virtual std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t most) = 0;
 

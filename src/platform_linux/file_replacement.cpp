@@ -32,8 +32,6 @@ std::string HiddenName()
     return name;
 }
 
-constexpr off_t kWriteBackPiece = 4 << 20;
-
 std::string DescriptorPath(int fd)
 {
     return "/proc/self/fd/" + std::to_string(fd);
@@ -220,7 +218,8 @@ bool CopyBytes(int from, int to)
     // Whatever ended that - the end of the file, or a file system that cannot - what is left goes through
     // here, and a real failure shows here again.
     const auto buffer = std::make_unique<std::array<std::byte, 256 * 1024>>();
-    for (off_t begun = lseek(to, 0, SEEK_CUR), done = begun;;) {
+    off_t done = lseek(to, 0, SEEK_CUR);
+    for (CEarlyWriteBack writeBack(to, done);;) {
         const ssize_t count = read(from, buffer->data(), buffer->size());
         if (count < 0 && errno == EINTR)
             continue;
@@ -229,11 +228,7 @@ bool CopyBytes(int from, int to)
         if (!WriteAll(to, std::span(buffer->data(), static_cast<std::size_t>(count))))
             return false;
         done += count;
-        // The medium starts on what is there while the rest is still being read.
-        if (done - begun >= kWriteBackPiece) {
-            (void)sync_file_range(to, begun, done - begun, SYNC_FILE_RANGE_WRITE);
-            begun = done;
-        }
+        writeBack.Written(done);
     }
 }
 

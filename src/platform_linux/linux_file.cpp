@@ -21,6 +21,7 @@ namespace
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
 const std::string kNotePrefix = "user.kelvo.";
 constexpr std::size_t kLongestNote = 256;
+constexpr off_t kWriteBackPiece = 4 << 20;
 
 // Offsets beyond off_t would turn negative.
 bool FitsOffset(std::uint64_t offset, std::uint64_t length)
@@ -127,8 +128,18 @@ bool NamesDescriptor(const std::string& path, int fd)
            named.st_ino == opened.st_ino;
 }
 
-CLinuxFile::CLinuxFile(CHandle opened) : handle(std::move(opened))
+void CEarlyWriteBack::Written(off_t upTo)
 {
+    if (upTo - begun < kWriteBackPiece)
+        return;
+    (void)sync_file_range(fd, begun, upTo - begun, SYNC_FILE_RANGE_WRITE);
+    begun = upTo;
+}
+
+CLinuxFile::CLinuxFile(CHandle opened, Writing writing) : handle(std::move(opened))
+{
+    if (writing == Writing::fromStartToEnd)
+        writeBack.emplace(handle.Get(), 0);
     (void)Stamp();
 }
 
@@ -155,7 +166,11 @@ std::size_t CLinuxFile::ReadAt(std::uint64_t offset, std::span<std::byte> buffer
 
 bool CLinuxFile::WriteAt(std::uint64_t offset, std::span<const std::byte> bytes)
 {
-    return WriteAllAt(handle.Get(), offset, bytes);
+    if (!WriteAllAt(handle.Get(), offset, bytes))
+        return false;
+    if (writeBack)
+        writeBack->Written(static_cast<off_t>(offset + bytes.size()));
+    return true;
 }
 
 bool CLinuxFile::Truncate(std::uint64_t size)

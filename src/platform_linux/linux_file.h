@@ -7,6 +7,7 @@
 #include "platform_linux/handle.h"
 
 #include <ctime>
+#include <optional>
 #include <sys/stat.h>
 
 namespace platform_linux
@@ -20,10 +21,25 @@ CHandle OpenRegular(const std::string& path, platform::OpenMode mode);
 bool WriteAllAt(int fd, std::uint64_t offset, std::span<const std::byte> bytes);
 bool WriteAll(int fd, std::span<const std::byte> bytes);
 
+// Has the medium start on what a stream of writes has left behind while the rest is still being made, so that
+// a sync at the end finds little to do.
+class CEarlyWriteBack
+{
+public:
+    CEarlyWriteBack(int descriptor, off_t from) : fd(descriptor), begun(from) {}
+    void Written(off_t upTo);
+
+private:
+    int fd;
+    off_t begun;
+};
+
+enum class Writing { anywhere, fromStartToEnd };
+
 class CLinuxFile final : public platform::CFile
 {
 public:
-    explicit CLinuxFile(CHandle opened);
+    explicit CLinuxFile(CHandle opened, Writing writing = Writing::anywhere);
 
     std::size_t ReadAt(std::uint64_t offset, std::span<std::byte> buffer) override;
     bool WriteAt(std::uint64_t offset, std::span<const std::byte> bytes) override;
@@ -39,6 +55,7 @@ public:
 
 private:
     CHandle handle;
+    std::optional<CEarlyWriteBack> writeBack;
     std::int64_t latestModified = 0;  // nanoseconds since 1970; the latest seen of this file
 };
 

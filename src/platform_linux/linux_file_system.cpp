@@ -32,6 +32,21 @@ private:
     CHandle handle;
 };
 
+class CLinuxReplacement final : public platform::CReplacement
+{
+public:
+    CLinuxReplacement(std::unique_ptr<CFileReplacement> started, CHandle second)
+        : replacement(std::move(started)), file(std::move(second), Writing::fromStartToEnd)
+    {
+    }
+    platform::CFile& File() override { return file; }
+    bool Commit() override { return replacement->Commit(); }
+
+private:
+    std::unique_ptr<CFileReplacement> replacement;
+    CLinuxFile file;
+};
+
 }  // namespace
 
 std::unique_ptr<platform::CFile> CLinuxFileSystem::Open(const std::string& path, platform::OpenMode mode)
@@ -84,6 +99,19 @@ bool CLinuxFileSystem::MoveFileNoReplace(const std::string& source, const std::s
 bool CLinuxFileSystem::ReplaceFile(const std::string& path, std::span<const std::byte> bytes)
 {
     return ReplaceBytes(path, bytes);
+}
+
+std::unique_ptr<platform::CReplacement> CLinuxFileSystem::BeginReplacement(const std::string& path)
+{
+    auto started = CFileReplacement::Start(path, 0666, ExistingTarget::replace);
+    if (!started)
+        return nullptr;
+    CHandle second(fcntl(started->Get(), F_DUPFD_CLOEXEC, 0));
+    if (!second.IsOpen()) {
+        Fail();
+        return nullptr;
+    }
+    return std::make_unique<CLinuxReplacement>(std::move(started), std::move(second));
 }
 
 std::optional<std::string> CLinuxFileSystem::ReadWhole(const std::string& path, std::uint64_t most)

@@ -26,6 +26,7 @@ public:
     bool MoveFile(const std::string& source, const std::string& target) override;
     bool MoveFileNoReplace(const std::string& source, const std::string& target) override;
     bool ReplaceFile(const std::string& path, std::span<const std::byte> bytes) override;
+    std::unique_ptr<platform::CReplacement> BeginReplacement(const std::string& path) override;
     std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t most) override;
 
     bool SetFileTime(const std::string& path, platform::FileTime creation,

@@ -185,6 +185,28 @@ TYPED_TEST(FileSystem, ListsAFolderInPiecesAndLooksThroughLinks)
     EXPECT_FALSE(this->files.ReadFolder(at(odd.c_str())));
 }
 
+TYPED_TEST(FileSystem, ReplacesAFileOnlyWhenWhatWasWrittenIsCommitted)
+{
+    const std::string path = this->folder.Make("file", "old");
+    const std::string link = this->folder.Path("link");
+    std::filesystem::create_symlink("file", link);
+    const auto write = [&](bool commit) {
+        const auto replacement = this->files.BeginReplacement(link);
+        return replacement && replacement->File().WriteAt(0, Bytes("newer")) &&
+               replacement->File().WriteAt(5, Bytes("!")) &&
+               this->Read(replacement->File(), 0, 9) == "newer!" && ReadBytes(path) == "old" &&
+               (!commit || replacement->Commit());
+    };
+
+    EXPECT_TRUE(write(false));
+    EXPECT_EQ(ReadBytes(path), "old");
+    EXPECT_TRUE(write(true));
+    EXPECT_EQ(ReadBytes(path), "newer!");
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(this->folder.Path()), {}), 2);
+    EXPECT_FALSE(this->files.BeginReplacement(this->folder.Path("no/folder")));
+}
+
 TYPED_TEST(FileSystem, CopiesBytesAndTimeOverWhatWasThere)
 {
     const std::string source = this->folder.Make("source", std::string(300'000, 'n'));

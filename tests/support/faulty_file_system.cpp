@@ -12,7 +12,7 @@ namespace
 class CFaultyFile : public platform::CFile
 {
 public:
-    CFaultyFile(CFaultyFileSystem& system, std::unique_ptr<platform::CFile> real)
+    CFaultyFile(CFaultyFileSystem& system, std::shared_ptr<platform::CFile> real)
         : owner(system), inner(std::move(real))
     {
     }
@@ -53,7 +53,23 @@ public:
 
 private:
     CFaultyFileSystem& owner;
-    std::unique_ptr<platform::CFile> inner;
+    std::shared_ptr<platform::CFile> inner;
+};
+
+class CFaultyReplacement : public platform::CReplacement
+{
+public:
+    CFaultyReplacement(CFaultyFileSystem& system, std::unique_ptr<platform::CReplacement> real)
+        : owner(system), inner(std::move(real)), file(system, {std::shared_ptr<void>(), &inner->File()})
+    {
+    }
+    platform::CFile& File() override { return file; }
+    bool Commit() override { return owner.Step() && inner->Commit(); }
+
+private:
+    CFaultyFileSystem& owner;
+    std::unique_ptr<platform::CReplacement> inner;
+    CFaultyFile file;
 };
 
 }  // namespace
@@ -65,6 +81,12 @@ std::unique_ptr<platform::CFile> CFaultyFileSystem::Open(const std::string& path
         return nullptr;
     auto file = inner.Open(path, mode);
     return file ? std::make_unique<CFaultyFile>(*this, std::move(file)) : nullptr;
+}
+
+std::unique_ptr<platform::CReplacement> CFaultyFileSystem::BeginReplacement(const std::string& path)
+{
+    auto real = Step() ? inner.BeginReplacement(path) : nullptr;
+    return real ? std::make_unique<CFaultyReplacement>(*this, std::move(real)) : nullptr;
 }
 
 bool CFaultyFileSystem::CopyFile(const std::string& source, const std::string& target)

@@ -3,8 +3,8 @@
 // CFaultyFileSystem: another file system that fails where a test wants it to.
 //
 // Every call that would change a file is one step: WriteAt, Truncate, MarkChanged, KeepNote, SetFileTime,
-// creating, deleting, moving, copying or replacing a file, making a folder. Steps are counted from 0. A step
-// that fails changes nothing, but for a write that is cut short.
+// creating, deleting, moving, copying or replacing a file (beginning and committing are two), making a
+// folder. Steps are counted from 0. A step that fails changes nothing, but for a write that is cut short.
 #pragma once
 
 #include "platform/file_system.h"
@@ -61,6 +61,7 @@ public:
     {
         return Step() && Take(bytes.size()) && inner.ReplaceFile(path, bytes);
     }
+    std::unique_ptr<platform::CReplacement> BeginReplacement(const std::string& path) override;
     std::optional<std::string> ReadWhole(const std::string& path, std::uint64_t most) override
     {
         return refused.contains(path) ? std::nullopt : inner.ReadWhole(path, most);

@@ -101,6 +101,22 @@ private:
     std::unique_ptr<platform::CFile> file;
 };
 
+class CTestReplacement : public platform::CReplacement
+{
+public:
+    CTestReplacement(std::unique_ptr<platform::CFile> opened, const std::string& path)
+        : file(std::move(opened)), target(path)
+    {
+    }
+    ~CTestReplacement() override { unlink((target + ".new").c_str()); }
+    platform::CFile& File() override { return *file; }
+    bool Commit() override { return rename((target + ".new").c_str(), target.c_str()) == 0; }
+
+private:
+    std::unique_ptr<platform::CFile> file;
+    std::string target;
+};
+
 class CTestFolderReader : public platform::CFolderReader
 {
 public:
@@ -205,9 +221,15 @@ bool CTestFileSystem::MoveFileNoReplace(const std::string& source, const std::st
 
 bool CTestFileSystem::ReplaceFile(const std::string& path, std::span<const std::byte> bytes)
 {
+    const auto replacement = BeginReplacement(path);
+    return replacement && replacement->File().WriteAt(0, bytes) && replacement->Commit();
+}
+
+std::unique_ptr<platform::CReplacement> CTestFileSystem::BeginReplacement(const std::string& path)
+{
     const std::string place = ResolveLink(path).value_or(path);
-    const auto file = Open(place + ".new", platform::OpenMode::create);
-    return file && file->WriteAt(0, bytes) && MoveFile(place + ".new", place);
+    auto file = Open(place + ".new", platform::OpenMode::create);
+    return file ? std::make_unique<CTestReplacement>(std::move(file), place) : nullptr;
 }
 
 std::optional<std::string> CTestFileSystem::ReadWhole(const std::string& path, std::uint64_t most)
