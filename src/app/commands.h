@@ -10,9 +10,13 @@ namespace app
 {
 
 enum class CommandId {
+    acquire,
+    selectSource,
+    cameraDownload,
     print,
     eMail,
     properties,
+    backToTaskPanel,
     exit,
     copy,
     cut,
@@ -23,6 +27,8 @@ enum class CommandId {
     invertSelection,
     search,
     thumbnails,
+    smallIcons,
+    list,
     details,
     sizeLarge,
     sizeMedium,
@@ -36,19 +42,29 @@ enum class CommandId {
     sortBySize,
     sortByType,
     sortByModified,
+    toolBar,
+    taskPanel,
     refresh,
     imageSize,
     photoTrim,
     whiteboardCleanUp,
+    videoTrim,
     slideShow,
     screenSaver,
+    screenCapture,
     changeTimeStamp,
+    uploadToPc,
+    downloadToMobile,
+    messageCenter,
+    pim,
+    mms,
+    sms,
     options,
     help,
     about,
 };
 
-enum class MenuId { file, edit, view, thumbnailSize, filter, sort, tools, help };
+enum class MenuId { file, edit, view, thumbnailSize, filter, sort, tools, mobile, help };
 
 struct Menu {
     MenuId id;
@@ -61,7 +77,7 @@ enum class Mark {
     none,
     toggle,  // on or off by itself
     choice,  // one of the commands of its menu
-    view,    // one of the two views
+    view,    // one of the list's views
 };
 
 struct Command {

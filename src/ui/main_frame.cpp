@@ -3,12 +3,10 @@
 #include "ui/main_frame.h"
 
 #include "browser/file_names.h"
-#include "browser/media_types.h"
 #include "platform/services.h"
 #include "platform/shell.h"
 #include "ui/controls/skin.h"
 #include "ui/display_text.h"
-#include "ui/icons.h"
 #include "ui/printer_defaults.h"
 #include "ui/theme.h"
 
@@ -37,7 +35,9 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       state({ReadPrinterDefaults, [this](bool on) { setEnabled(on); },
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
-      right(new CIEShellListView(owner.DbFolder(), *menu)), status(new CStatusBar(this))
+      right(new CIEShellListView(owner.DbFolder(), *menu)), status(new CStatusBar(this)),
+      fileCommands(router, *this), editCommands(router, *this), viewCommands(router, *this),
+      toolCommands(router, *this), helpCommands(router, *this)
 {
     UseSkin(owner.SkinFolder());
     LoadSettings();
@@ -45,7 +45,7 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
     setWindowTitle(Shown(caption.empty() ? owner.Title() : caption));
     BuildPanes();
     ConnectList();
-    connect(menu, &CMainMenu::Triggered, this, &CMainFrame::Run);
+    connect(menu, &CMainMenu::Triggered, this, [this](app::CommandId id) { router.Run(id); });
     for (const auto id : {app::CommandId::thumbnails, app::CommandId::sizeMedium, app::CommandId::filterMedia,
                           app::CommandId::sortByName})
         menu->Check(id);
@@ -131,84 +131,6 @@ void CMainFrame::GoUp()
         GoTo(std::string(browser::FolderOf(folder)), std::string(browser::FileName(folder)));
 }
 
-void CMainFrame::Run(app::CommandId id)
-{
-    using app::CommandId;
-    switch (id) {
-    case CommandId::exit:
-        close();
-        break;
-    case CommandId::search:
-        left->ShowTab(app::kSearchTab);
-        break;
-    case CommandId::help:
-        ShowHelp();
-        break;
-    case CommandId::about:
-        ShowAbout();
-        break;
-    case CommandId::copy:
-        List()->CopySelection();
-        break;
-    case CommandId::selectAll:
-        List()->SelectAll();
-        break;
-    case CommandId::selectNone:
-        List()->SelectNone();
-        break;
-    case CommandId::invertSelection:
-        List()->InvertSelection();
-        break;
-    default:
-        RunViewCommand(id);
-        break;
-    }
-}
-
-void CMainFrame::RunViewCommand(app::CommandId id)
-{
-    using app::CommandId;
-    constexpr int kKeep = browser::CMediaFileList::kKeep;
-    switch (id) {
-    case CommandId::thumbnails:
-        right->SetViewStyle(ViewStyle::thumbnails);
-        break;
-    case CommandId::details:
-        right->SetViewStyle(ViewStyle::details);
-        break;
-    case CommandId::sizeLarge:
-        right->SetThumbnailStep(2);
-        break;
-    case CommandId::sizeMedium:
-        right->SetThumbnailStep(1);
-        break;
-    case CommandId::sizeSmall:
-        right->SetThumbnailStep(0);
-        break;
-    case CommandId::filterPhoto:
-        List()->SetFilter(browser::kFilterPhoto, kKeep);
-        break;
-    case CommandId::filterVideo:
-        List()->SetFilter(browser::kFilterVideo, kKeep);
-        break;
-    case CommandId::filterMedia:
-        List()->SetFilter(browser::kFilterMedia, kKeep);
-        break;
-    case CommandId::filterAllFiles:
-        List()->SetFilter(browser::kFilterAllFiles, kKeep);
-        break;
-    case CommandId::includeFolder:
-        List()->SetFilter(kKeep, menu->Action(id)->isChecked() ? 1 : 0);
-        break;
-    case CommandId::refresh:
-        left->Tree()->Refresh();
-        List()->Refresh();
-        break;
-    default:
-        break;
-    }
-}
-
 void CMainFrame::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F6)
@@ -223,25 +145,6 @@ void CMainFrame::SwitchPane()
         right->setFocus(Qt::OtherFocusReason);
     else
         left->setFocus(Qt::OtherFocusReason);
-}
-
-void CMainFrame::ShowHelp()
-{
-    const std::string page = browser::JoinPath(owner.ProgramFolder(), "Help/index.htm");
-    if (platform::Os().files->FindFirstFile(page))
-        platform::Os().shell->ShellExecute(page);
-}
-
-void CMainFrame::ShowAbout()
-{
-    auto* box = new QMessageBox(
-        QMessageBox::NoIcon, QStringLiteral("About"),
-        QStringLiteral("%1 %2").arg(Shown(owner.Title()), Shown(owner.VersionText().substr(0, 4))),
-        QMessageBox::Ok, this);
-    box->setInformativeText(QStringLiteral("A manager for photos and other media."));
-    box->setIconPixmap(IconPixmap(QStringLiteral("kelvo"), 64, CTheme::Colours().text, devicePixelRatioF()));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
 }
 
 void CMainFrame::Tell(const QString& text)

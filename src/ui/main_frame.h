@@ -1,12 +1,18 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CMainFrame: the main window. It carries out the commands and ticks the making of thumbnails.
+// CMainFrame: the main window. It holds the two panes and the groups of commands, and ticks the making of
+// thumbnails. What a command does stands with its group in ui/commands.
 #pragma once
 
 #include "app/data_folders.h"
 #include "app/kelvo_app.h"
 #include "app/main_frame_state.h"
 #include "app/settings.h"
+#include "ui/commands/edit_commands.h"
+#include "ui/commands/file_commands.h"
+#include "ui/commands/help_commands.h"
+#include "ui/commands/tool_commands.h"
+#include "ui/commands/view_commands.h"
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
@@ -33,13 +39,15 @@ public:
     void GoToStart();
     // Tells the user of things that went wrong, without waiting for an answer.
     void Tell(const QString& text);
-    void Run(app::CommandId id);
 
+    const app::CKelvoApp& Application() const { return owner; }
+    app::CDataFolders& Folders() const { return folders; }
     CLeftView* LeftView() const { return left; }
     CIEShellListView* ListView() const { return right; }
     CIEShellListCtrl* List() const { return right->Ctrl(); }
     CStatusBar* Status() const { return status; }
     const CMainMenu* Menu() const { return menu; }
+    const CCommandRouter& Router() const { return router; }
     app::CMainFrameState& State() { return state; }
     // Whether the thumbnail timer runs.
     bool IsTicking() const { return thumbnailTimer.isActive(); }
@@ -52,11 +60,8 @@ private:
     void BuildPanes();
     void ConnectList();
     void Tick();
-    void RunViewCommand(app::CommandId id);
     void GoUp();
     void SwitchPane();
-    void ShowHelp();
-    void ShowAbout();
 
     const app::CKelvoApp& owner;
     app::CDataFolders& folders;
@@ -68,6 +73,12 @@ private:
     CStatusBar* status;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
+    CCommandRouter router;
+    CFileCommands fileCommands;
+    CEditCommands editCommands;
+    CViewCommands viewCommands;
+    CToolCommands toolCommands;
+    CHelpCommands helpCommands;
 };
 
 }  // namespace ui

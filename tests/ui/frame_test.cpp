@@ -109,6 +109,7 @@ TEST_F(FrameTest, CommandsWithoutTheirSubsystemAreDisabledAndSayWhy)
         const QAction& action = *frame->Menu()->Action(command.id);
         const QString name = action.text();
         EXPECT_EQ(action.isEnabled(), command.missing.empty()) << name.toStdString();
+        EXPECT_EQ(frame->Router().Has(command.id), action.isEnabled()) << name.toStdString();
         EXPECT_TRUE(command.missing.empty() || action.toolTip().toStdString() == command.missing);
         EXPECT_EQ(action.shortcut().isEmpty(), command.shortcut.empty()) << name.toStdString();
     }

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/commands/help_commands.h"
+
+#include "browser/file_names.h"
+#include "platform/file_system.h"
+#include "platform/services.h"
+#include "platform/shell.h"
+#include "ui/display_text.h"
+#include "ui/icons.h"
+#include "ui/main_frame.h"
+#include "ui/theme.h"
+
+#include <QMessageBox>
+
+namespace ui
+{
+
+namespace
+{
+
+void ShowHelp(const app::CKelvoApp& application)
+{
+    const std::string page = browser::JoinPath(application.ProgramFolder(), "Help/index.htm");
+    if (platform::Os().files->FindFirstFile(page))
+        platform::Os().shell->ShellExecute(page);
+}
+
+void ShowAbout(CMainFrame& frame)
+{
+    const app::CKelvoApp& application = frame.Application();
+    auto* box = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("About"),
+                                QStringLiteral("%1 %2").arg(Shown(application.Title()),
+                                                            Shown(application.VersionText().substr(0, 4))),
+                                QMessageBox::Ok, &frame);
+    box->setInformativeText(QStringLiteral("A manager for photos and other media."));
+    box->setIconPixmap(
+        IconPixmap(QStringLiteral("kelvo"), 64, CTheme::Colours().text, frame.devicePixelRatioF()));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+}  // namespace
+
+CHelpCommands::CHelpCommands(CCommandRouter& router, CMainFrame& frame)
+{
+    router.On(app::CommandId::help, [&frame] { ShowHelp(frame.Application()); });
+    router.On(app::CommandId::about, [&frame] { ShowAbout(frame); });
+}
+
+}  // namespace ui
