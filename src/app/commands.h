@@ -3,6 +3,8 @@
 // The commands of the main frame: what each menu holds, in order.
 #pragma once
 
+#include "platform/string_ids.h"
+
 #include <span>
 #include <string_view>
 
@@ -68,7 +70,7 @@ enum class MenuId { file, edit, view, thumbnailSize, filter, sort, tools, mobile
 
 struct Menu {
     MenuId id;
-    std::string_view text;
+    platform::StringId text;
     MenuId parent;  // itself for a menu of the menu bar
 };
 
@@ -83,11 +85,11 @@ enum class Mark {
 struct Command {
     CommandId id;
     MenuId menu;
-    std::string_view text;
+    platform::StringId text;
     std::string_view shortcut;  // "Ctrl+P"; empty for none
     Mark mark = Mark::none;
-    bool startsGroup = false;       // a line stands before it
-    std::string_view missing = "";  // why it cannot be used yet, for the user; empty when it works
+    bool startsGroup = false;                               // a line stands before it
+    platform::StringId missing = platform::StringId::none;  // why it cannot be used; none when it works
 };
 
 // A sub-menu stands where the first of its commands does.

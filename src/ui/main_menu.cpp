@@ -3,6 +3,7 @@
 #include "ui/main_menu.h"
 
 #include "ui/display_text.h"
+#include "ui/words.h"
 
 #include <QActionGroup>
 #include <QMainWindow>
@@ -47,7 +48,7 @@ QMenu* CMainMenu::MenuOf(QMainWindow& window, app::MenuId id)
     if (const auto known = menus.find(id); known != menus.end())
         return known->second;
     const app::Menu& entry = *std::ranges::find(app::Menus(), id, &app::Menu::id);
-    const QString text = Shown(entry.text);
+    const QString text = Text(entry.text);
     QMenu* menu = nullptr;
     if (entry.parent == id) {
         menu = window.menuBar()->addMenu(QLatin1Char('&') + text);
@@ -63,11 +64,11 @@ QMenu* CMainMenu::MenuOf(QMainWindow& window, app::MenuId id)
 
 QAction* CMainMenu::MakeAction(QMainWindow& window, const app::Command& command)
 {
-    auto* action = new QAction(Shown(command.text), &window);
+    auto* action = new QAction(Text(command.text), &window);
     action->setShortcuts(Keys(command));
-    action->setEnabled(command.missing.empty());
-    if (!command.missing.empty())
-        action->setToolTip(Shown(command.missing));
+    action->setEnabled(command.missing == StringId::none);
+    if (command.missing != StringId::none)
+        action->setToolTip(Text(command.missing));
     action->setCheckable(command.mark != app::Mark::none);
     action->setActionGroup(GroupOf(command));
     connect(action, &QAction::triggered, this, [this, id = command.id] { Q_EMIT Triggered(id); });

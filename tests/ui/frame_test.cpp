@@ -3,6 +3,8 @@
 // The frame and the left pane: tabs, trees, commands, and the folder that both panes agree on.
 #include "window_test_base.h"
 
+#include "ui/words.h"
+
 #include <QSlider>
 
 #include <gmock/gmock.h>
@@ -108,9 +110,9 @@ TEST_F(FrameTest, CommandsWithoutTheirSubsystemAreDisabledAndSayWhy)
     for (const app::Command& command : app::Commands()) {
         const QAction& action = *frame->Menu()->Action(command.id);
         const QString name = action.text();
-        EXPECT_EQ(action.isEnabled(), command.missing.empty()) << name.toStdString();
+        EXPECT_EQ(action.isEnabled(), command.missing == ui::StringId::none) << name.toStdString();
         EXPECT_EQ(frame->Router().Has(command.id), action.isEnabled()) << name.toStdString();
-        EXPECT_TRUE(command.missing.empty() || action.toolTip().toStdString() == command.missing);
+        EXPECT_TRUE(action.isEnabled() || action.toolTip() == ui::Text(command.missing));
         EXPECT_EQ(action.shortcut().isEmpty(), command.shortcut.empty()) << name.toStdString();
     }
 }

@@ -10,6 +10,7 @@
 #include "ui/icons.h"
 #include "ui/main_frame.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QMessageBox>
 
@@ -29,11 +30,11 @@ void ShowHelp(const app::CKelvoApp& application)
 void ShowAbout(CMainFrame& frame)
 {
     const app::CKelvoApp& application = frame.Application();
-    auto* box = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("About"),
+    auto* box = new QMessageBox(QMessageBox::NoIcon, Text(StringId::aboutTitle),
                                 QStringLiteral("%1 %2").arg(Shown(application.Title()),
                                                             Shown(application.VersionText().substr(0, 4))),
                                 QMessageBox::Ok, &frame);
-    box->setInformativeText(QStringLiteral("A manager for photos and other media."));
+    box->setInformativeText(Text(StringId::aboutWhat));
     box->setIconPixmap(
         IconPixmap(QStringLiteral("kelvo"), 64, CTheme::Colours().text, frame.devicePixelRatioF()));
     box->setAttribute(Qt::WA_DeleteOnClose);
