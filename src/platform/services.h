@@ -19,6 +19,10 @@ class CImageLibrary;
 class CChangeNotifications;
 class CLibraries;
 class CSkinHook;
+class CDevices;
+class CSerialPorts;
+class CPictureSources;
+class CScreen;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -31,6 +35,11 @@ struct Services {
     CChangeNotifications* changes = nullptr;  // null where nothing is watched
     CLibraries* libraries = nullptr;
     CSkinHook* skinHook = nullptr;  // null in programs without a window
+    // Each null where the program has no use for it.
+    CDevices* devices = nullptr;
+    CSerialPorts* serialPorts = nullptr;
+    CPictureSources* pictureSources = nullptr;
+    CScreen* screen = nullptr;
 };
 
 inline Services& Os()

@@ -61,6 +61,9 @@ public:
             written = WritePrivateProfileString(section, key, value, file) && written;
         return written;
     }
+    // Why this thread's latest write failed, in the numbers that the suite knows: 3 no such path, 5 not
+    // permitted, 21 the device is not ready, 82 cannot be made; 31 for every other reason.
+    virtual int GetLastError() = 0;
 };
 
 }  // namespace platform

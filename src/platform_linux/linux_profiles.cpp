@@ -128,4 +128,29 @@ bool CLinuxProfiles::WritePrivateProfileValues(const std::string& section,
     return mayNot && !copy.empty() && WriteUserCopy(copy, file, change);
 }
 
+int CLinuxProfiles::GetLastError()
+{
+    switch (LastFailure()) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENAMETOOLONG:
+        return 3;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return 5;
+    case ENXIO:
+    case ENODEV:
+    case ENOMEDIUM:
+        return 21;
+    case EEXIST:
+    case EISDIR:
+    case ENOSPC:
+    case EDQUOT:
+        return 82;
+    default:
+        return 31;
+    }
+}
+
 }  // namespace platform_linux

@@ -31,6 +31,7 @@ public:
     // All of them in one replacement of the file, or none.
     bool WritePrivateProfileValues(const std::string& section, const platform::ProfileValues& values,
                                    const std::string& file) override;
+    int GetLastError() override;
 
 private:
     std::optional<std::string> Find(const std::string& section, const std::string& key,

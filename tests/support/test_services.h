@@ -48,6 +48,7 @@ class CTestProfiles : public platform::CProfiles
 public:
     std::map<std::string, std::string> values;  // by "section/key" of any file
     std::vector<std::string> written;           // "section/key=value", in order
+    int error = 0;                              // for other than 0, every write fails with it
 
     int GetPrivateProfileInt(const std::string& section, const std::string& key, int fallback,
                              const std::string& file) override
@@ -67,10 +68,13 @@ public:
     bool WritePrivateProfileString(const std::string& section, const std::string& key,
                                    const std::string& value, const std::string&) override
     {
+        if (error != 0)
+            return false;
         values[section + "/" + key] = value;
         written.push_back(section + "/" + key + "=" + value);
         return true;
     }
+    int GetLastError() override { return error; }
 };
 
 class CTestUtility : public platform::CUtility
