@@ -10,14 +10,14 @@ namespace app
 std::span<const std::vector<CommandId>> ContextMenu(MenuPane pane)
 {
     using enum CommandId;
-    static const std::array<std::vector<CommandId>, 3> leftPane{
+    static const std::array<std::vector<CommandId>, 3> ofLeftPane{
         {{copy, cut, paste}, {search, refresh}, {properties}}};
-    static const std::array<std::vector<CommandId>, 5> list{{{copy, cut, paste, CommandId::remove},
-                                                             {slideShow, print, eMail},
-                                                             {selectAll, invertSelection},
-                                                             {refresh},
-                                                             {properties}}};
-    return pane == MenuPane::leftPane ? std::span<const std::vector<CommandId>>(leftPane) : list;
+    static const std::array<std::vector<CommandId>, 5> ofList{{{copy, cut, paste, CommandId::remove},
+                                                               {slideShow, print, eMail},
+                                                               {selectAll, invertSelection},
+                                                               {refresh},
+                                                               {properties}}};
+    return pane == MenuPane::leftPane ? std::span<const std::vector<CommandId>>(ofLeftPane) : ofList;
 }
 
 std::int64_t PackPoint(ScreenPoint point)
