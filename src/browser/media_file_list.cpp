@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <iterator>
 #include <unordered_map>
+#include <utility>
 
 namespace browser
 {
@@ -53,6 +54,7 @@ bool CMediaFileList::StartFill(const std::string& folderPath)
     incomingCount = 0;
     readerAtEnd = false;
     incomingRead = 0;
+    carriedOver = false;
     fillStart = platform::Os().utility->GetTickCount();
     fillError.clear();
     if (folderPath != folder) {
@@ -66,7 +68,6 @@ bool CMediaFileList::StartFill(const std::string& folderPath)
         state = FillState::failed;
         return false;
     }
-    SetRefreshing(true);
     state = FillState::reading;
     return true;
 }
@@ -138,7 +139,6 @@ void CMediaFileList::EndFill()
     TakeOver(runs.empty() ? std::vector<MediaItem>{} : std::move(runs.front()));
     runs.clear();
     state = FillState::idle;
-    SetRefreshing(false);
 }
 
 bool CMediaFileList::Wanted(const platform::FolderEntry& entry) const
@@ -151,9 +151,8 @@ bool CMediaFileList::Wanted(const platform::FolderEntry& entry) const
 
 void CMediaFileList::TakeOver(std::vector<MediaItem> filled)
 {
-    CarryBitmaps(filled);
-    CarryFacts(filled);
-    items = std::move(filled);
+    CarryOver(filled);
+    const std::vector<MediaItem> former = std::exchange(items, std::move(filled));
     for (std::uint32_t rank = 0; MediaItem & item : items) {
         item.nameRank = rank++;
     }
@@ -163,11 +162,13 @@ void CMediaFileList::TakeOver(std::vector<MediaItem> filled)
     nextFactsItem = 0;
     nextDateItem = 0;
     knownBytes = 0;
+    factsUnknown = 0;
     thumbnailsLeft = 0;
     for (int i = 0; i < Count(); ++i) {
         const MediaItem& item = Item(i);
-        thumbnailsLeft += item.needsThumbnail && !item.thumbnailDone ? 1 : 0;
+        thumbnailsLeft += IsThumbnailLeft(item) ? 1 : 0;
         knownBytes += item.factsKnown && !item.isFolder ? item.fileSize : 0;
+        factsUnknown += item.factsKnown ? 0 : 1;
         if (item.thumbnail) {
             heldBitmaps.push_back(i);
         }
@@ -179,31 +180,34 @@ void CMediaFileList::TakeOver(std::vector<MediaItem> filled)
         Arrange(OrderOf(items, order));
         unsorted = mustRead;
     }
+    itemsStayed = std::ranges::equal(former, items, [](const MediaItem& left, const MediaItem& right) {
+        return left.isFolder == right.isFolder && left.name == right.name;
+    });
 }
 
-// Pictures on show stay on show through a refresh when their files are as they were.
-void CMediaFileList::CarryBitmaps(std::vector<MediaItem>& filled) const
+// What is known of a file that is still there stays known until it turns out to have changed.
+void CMediaFileList::CarryOver(std::vector<MediaItem>& filled)
 {
-    std::unordered_map<std::string_view, const MediaItem*> held;
-    for (const int index : heldBitmaps) {
-        if (index < Count()) {
-            held.emplace(Item(index).name, &Item(index));
-        }
-    }
-    if (held.empty()) {
+    if (std::exchange(carriedOver, true) || items.empty()) {
         return;
     }
+    std::unordered_map<std::string_view, const MediaItem*> known;
+    known.reserve(items.size());
+    for (const MediaItem& item : items) {
+        if (item.factsKnown) {
+            known.emplace(item.name, &item);
+        }
+    }
     for (MediaItem& item : filled) {
-        const auto found = held.find(item.name);
-        if (found == held.end()) {
+        const auto found = known.find(item.name);
+        if (found == known.end() || found->second->isFolder != item.isFolder ||
+            found->second->isLink != item.isLink) {
             continue;
         }
-        const MediaItem& old = *found->second;
-        const auto facts = platform::Os().files->FindFirstFile(JoinPath(folder, item.name));
-        if (facts && facts->size == old.fileSize && facts->lastWriteTime == old.lastWriteTime &&
-            facts->creationTime == old.creationTime) {
-            item = old;
-        }
+        std::string name = std::move(item.name);
+        item = *found->second;
+        item.name = std::move(name);
+        item.factsDue = true;
     }
 }
 

@@ -7,6 +7,10 @@
 // stays live on one thread. Items are in the list's sort order, folders first; names are compared by
 // NameBefore.
 //
+// A fill of the same folder takes over what is known of the files that are still there. Whether they are as
+// they were is looked up when they are shown, and by FactsStep; one that has changed keeps its picture until
+// it gets its new one.
+//
 // Item indexes hold until the next fill ends or the order changes. Bitmaps of items far from the visible ones
 // are let go when there are too many and come back from the store when they are visible again.
 #pragma once
@@ -40,10 +44,12 @@ struct MediaItem {
     bool isFolder = false;
     bool isLink = false;
     bool needsThumbnail = false;
-    bool thumbnailDone = false;    // made once, whether or not the bitmap is still held
-    bool thumbnailFailed = false;  // the latest attempt gave none
-    bool factsKnown = false;       // size and times have been read; until then they may be older ones
-    bool dateKnown = false;        // whether the picture tells when it was taken has been looked up
+    bool thumbnailDone = false;      // made once, whether or not the bitmap is still held
+    bool thumbnailFailed = false;    // the latest attempt gave none
+    bool thumbnailOutdated = false;  // the file has changed since its thumbnail was made
+    bool factsKnown = false;         // size and times have been read
+    bool factsDue = false;           // they were read before the latest fill, and are to be compared
+    bool dateKnown = false;          // whether the picture tells when it was taken has been looked up
 };
 
 // A store entry whose three texts are to be set when there is nothing else to do.
@@ -94,6 +100,8 @@ public:
     bool Fill(const std::string& folderPath);
     // Reads the same folder anew.
     bool Refresh() { return StartFill(folder); }
+    // Whether the latest fill ended with the items that there were before, in the same order.
+    bool ItemsStayed() const { return itemsStayed; }
     FillState State() const { return state; }
     const std::string& FillError() const { return fillError; }
     std::size_t FilledSoFar() const { return incomingCount; }
@@ -116,26 +124,24 @@ public:
     bool SetFilter(int mode, int includeFolders);
     int Filter() const { return filter; }
     bool IncludeFolder() const { return includeFolder; }
-    void SetRefreshing(bool on) { refreshing = on; }
-    bool IsRefreshing() const { return refreshing; }
 
     // --- Items -------------------------------------------------------------------------------------------
     const std::string& Folder() const { return folder; }
     int Count() const { return static_cast<int>(items.size()); }
     const MediaItem& Item(int index) const { return items[static_cast<std::size_t>(index)]; }
     std::string PathOf(int index) const;
-    // Reads size and times of the item unless they are known; false when the file is gone.
+    // Reads size and times of the item unless they are known and not due; false when the file is gone.
     bool ReadFacts(int index);
     // Looks up when the picture was taken unless that is known.
     void ReadDate(int index);
-    // Reads the facts of the next items that lack them, then, where wanted, the dates (a tenth as many, as
-    // each opens a file); true while there are more.
+    // Reads the facts of the next items where ReadFacts would, then, where wanted, the dates (a tenth as
+    // many, as each opens a file); true while there are more.
     bool FactsStep(int most);
     // The sum of the sizes read so far, and whether it covers every item.
     std::uint64_t KnownBytes() const { return knownBytes; }
-    bool AllFactsKnown() const { return nextFactsItem >= Count(); }
+    bool AllFactsKnown() const { return factsUnknown == 0 || !FactsLeft(); }
     // Whether there is nothing left for FactsStep.
-    bool AllRead() const { return AllFactsKnown() && (nextDateItem >= Count() || !DatesAreWanted()); }
+    bool AllRead() const { return !FactsLeft() && (nextDateItem >= Count() || !DatesAreWanted()); }
     // How many items FactsStep has asked for what the list is to be sorted by.
     int ReadForOrder() const { return NeedsOf(order.key) == SortNeeds::dates ? nextDateItem : nextFactsItem; }
 
@@ -147,6 +153,8 @@ public:
     ThumbnailOutcome CreateThumbnail(int index);
     // The thumbnail of that item is to be made again even if there is one.
     void InvalidateThumbnail(int index) { pendingThumbItems.insert(index); }
+    // Those that failed are to be tried again though their files are as they were.
+    void ForgetFailures();
     void QueueEntryUpdate(EntryUpdate update) { pendingEntryUpdates.push_back(std::move(update)); }
     void SetUseThumbStore(bool on) { useThumbStore = on; }
     // Frees the memory of every bitmap held; they come back as those of far items do.
@@ -157,13 +165,13 @@ public:
 private:
     class CTick;
     void TakeOver(std::vector<MediaItem> filled);
-    void CarryBitmaps(std::vector<MediaItem>& filled) const;
+    void CarryOver(std::vector<MediaItem>& filled);
     void ReadChunk();
     bool MergeIsDue() const;
     void MergeTopRuns();
     bool ReadIncoming();
     void EndFill();
-    void CarryFacts(std::vector<MediaItem>& filled) const;
+    bool FactsLeft() const { return nextFactsItem < Count(); }
     static void TakeFacts(MediaItem& item, const platform::FileFacts& facts);
     static void TakeDate(MediaItem& item, const std::string& path);
     bool DatesAreWanted() const { return datesWanted || NeedsOf(order.key) == SortNeeds::dates; }
@@ -172,7 +180,12 @@ private:
     void Arrange(const std::vector<std::uint32_t>& indexes);
     bool Wanted(const platform::FolderEntry& entry) const;
     std::optional<std::string> ThumbnailSource(int index) const;
-    void SetFacts(MediaItem& item, const platform::FileFacts& facts);
+    void SetFacts(int index, const platform::FileFacts& facts);
+    static bool IsThumbnailLeft(const MediaItem& item)
+    {
+        return item.needsThumbnail && !item.thumbnailDone && !item.thumbnailFailed;
+    }
+    void DropBitmap(int index);
     bool FailedAsItIs(int index) const;
     int VisibleStep(VisibleRange visible, const CTick& tick);
     int RestStep(const CTick& tick);
@@ -185,7 +198,6 @@ private:
     CPatternList patterns;
     int filter = kFilterMedia;
     bool includeFolder = false;
-    bool refreshing = false;
 
     FillState state = FillState::idle;
     std::string fillError;
@@ -195,6 +207,8 @@ private:
     bool readerAtEnd = false;
     std::size_t incomingRead = 0;  // of the last run, items whose facts have been read
     std::uint64_t fillStart = 0;   // milliseconds
+    bool carriedOver = false;      // the items being read have what was known of them
+    bool itemsStayed = false;
 
     SortOrder order;
     bool unsorted = false;
@@ -203,6 +217,7 @@ private:
 
     std::uint64_t knownBytes = 0;
     int nextFactsItem = 0;
+    int factsUnknown = 0;  // items without facts
 
     std::optional<CThumbnailStore> store;
     bool useThumbStore = true;

@@ -9,8 +9,6 @@
 #include "platform/utility.h"
 
 #include <algorithm>
-#include <string_view>
-#include <unordered_map>
 
 namespace browser
 {
@@ -57,7 +55,7 @@ bool CMediaFileList::HasOrderKey(const MediaItem& item) const
 {
     switch (NeedsOf(order.key)) {
     case SortNeeds::facts:
-        return item.factsKnown;
+        return item.factsKnown && !item.factsDue;
     case SortNeeds::dates:
         return item.dateKnown || !MayTellDate(item);
     default:
@@ -111,7 +109,7 @@ bool CMediaFileList::ReadIncoming()
     const std::size_t step = needs == SortNeeds::dates ? kDatesAtOnce : kFactsAtOnce;
     const std::size_t end = std::min(incoming.size(), incomingRead + step);
     if (incomingRead == 0) {
-        CarryFacts(incoming);
+        CarryOver(incoming);
     }
     for (; incomingRead < end; ++incomingRead) {
         MediaItem& item = incoming[incomingRead];
@@ -126,42 +124,22 @@ bool CMediaFileList::ReadIncoming()
     return incomingRead < incoming.size();
 }
 
-// Until they are read anew, the facts of a folder that is read again are those of its files before; a date is
-// kept for good where its file is as it was.
-void CMediaFileList::CarryFacts(std::vector<MediaItem>& filled) const
-{
-    if (items.empty() || (NeedsOf(order.key) == SortNeeds::nothing && !datesWanted)) {
-        return;
-    }
-    std::unordered_map<std::string_view, const MediaItem*> known;
-    known.reserve(items.size());
-    for (const MediaItem& item : items) {
-        known.emplace(item.name, &item);
-    }
-    for (MediaItem& item : filled) {
-        const auto found = known.find(item.name);
-        if (item.factsKnown || found == known.end()) {
-            continue;
-        }
-        const MediaItem& old = *found->second;
-        item.fileSize = old.fileSize;
-        item.creationTime = old.creationTime;
-        item.lastWriteTime = old.lastWriteTime;
-        item.dateTaken = old.dateTaken;
-        item.dateKnown = old.dateKnown;
-    }
-}
-
 void CMediaFileList::TakeFacts(MediaItem& item, const platform::FileFacts& facts)
 {
-    if (!item.isFolder) {
-        item.dateKnown =
-            item.dateKnown && item.fileSize == facts.size && item.lastWriteTime == facts.lastWriteTime;
-        item.fileSize = facts.size;
+    const bool changed = item.lastWriteTime != facts.lastWriteTime ||
+                         item.creationTime != facts.creationTime ||
+                         (!item.isFolder && item.fileSize != facts.size);
+    item.dateKnown = item.dateKnown && !changed;
+    if (item.factsDue && changed) {
+        item.thumbnailOutdated = item.thumbnailDone;
+        item.thumbnailDone = false;
+        item.thumbnailFailed = false;
     }
+    item.fileSize = item.isFolder ? 0 : facts.size;
     item.creationTime = facts.creationTime;
     item.lastWriteTime = facts.lastWriteTime;
     item.factsKnown = true;
+    item.factsDue = false;
 }
 
 void CMediaFileList::TakeDate(MediaItem& item, const std::string& path)
@@ -172,22 +150,29 @@ void CMediaFileList::TakeDate(MediaItem& item, const std::string& path)
     item.dateKnown = true;
 }
 
-void CMediaFileList::SetFacts(MediaItem& item, const platform::FileFacts& facts)
+void CMediaFileList::SetFacts(int index, const platform::FileFacts& facts)
 {
-    const std::uint64_t counted = item.factsKnown && !item.isFolder ? item.fileSize : 0;
+    MediaItem& item = items[static_cast<std::size_t>(index)];
+    const std::uint64_t counted = item.factsKnown ? item.fileSize : 0;
+    const bool wasLeft = IsThumbnailLeft(item);
+    factsUnknown -= item.factsKnown ? 0 : 1;
     TakeFacts(item, facts);
-    knownBytes += item.isFolder ? 0 : item.fileSize - counted;
+    knownBytes += item.fileSize - counted;
+    if (IsThumbnailLeft(item) && !wasLeft) {
+        ++thumbnailsLeft;
+        nextThumbItem = std::min(nextThumbItem, index);
+    }
 }
 
 bool CMediaFileList::ReadFacts(int index)
 {
-    MediaItem& item = items[static_cast<std::size_t>(index)];
-    if (item.factsKnown) {
+    const MediaItem& item = Item(index);
+    if (item.factsKnown && !item.factsDue) {
         return true;
     }
     const auto facts = platform::Os().files->FindFirstFile(PathOf(index));
     if (facts) {
-        SetFacts(item, *facts);
+        SetFacts(index, *facts);
     }
     return facts.has_value();
 }
@@ -200,7 +185,7 @@ void CMediaFileList::ReadDate(int index)
 
 bool CMediaFileList::FactsStep(int most)
 {
-    if (!AllFactsKnown()) {
+    if (FactsLeft()) {
         const int end = std::min(Count(), nextFactsItem + most);
         for (; nextFactsItem < end; ++nextFactsItem) {
             ReadFacts(nextFactsItem);

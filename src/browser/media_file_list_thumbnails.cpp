@@ -62,7 +62,10 @@ StepOutcome CMediaFileList::ThumbnailStep(bool thumbnailView, std::optional<Visi
 int CMediaFileList::VisibleStep(VisibleRange visible, const CTick& tick)
 {
     for (int i = std::max(0, visible.first); i <= visible.last && i < Count() && !tick.IsOver(); ++i) {
-        const bool forced = pendingThumbItems.erase(i) > 0;
+        if (Item(i).factsDue) {
+            ReadFacts(i);
+        }
+        const bool forced = pendingThumbItems.erase(i) > 0 || Item(i).thumbnailOutdated;
         const bool wanted = Item(i).needsThumbnail && !Item(i).thumbnail && !FailedAsItIs(i);
         if ((forced || wanted) && CreateThumbnail(i).bitmap) {
             return i;
@@ -122,7 +125,7 @@ ThumbnailOutcome CMediaFileList::CreateThumbnail(int index)
     const auto path = ThumbnailSource(index);
     const auto facts = path ? platform::Os().files->FindFirstFile(*path) : std::nullopt;
     if (facts) {
-        SetFacts(item, *facts);
+        SetFacts(index, *facts);
     }
     if (!facts || !facts->isRegular) {
         Finish(index, outcome);
@@ -150,12 +153,28 @@ ThumbnailOutcome CMediaFileList::CreateThumbnail(int index)
     return outcome;
 }
 
+void CMediaFileList::ForgetFailures()
+{
+    for (MediaItem& item : items) {
+        const bool wasLeft = IsThumbnailLeft(item);
+        item.thumbnailFailed = false;
+        thumbnailsLeft += IsThumbnailLeft(item) && !wasLeft ? 1 : 0;
+    }
+    nextThumbItem = 0;
+}
+
+void CMediaFileList::DropBitmap(int index)
+{
+    items[static_cast<std::size_t>(index)].thumbnail.reset();
+    std::erase(heldBitmaps, index);
+}
+
 void CMediaFileList::Finish(int index, const ThumbnailOutcome& outcome)
 {
     MediaItem& item = items[static_cast<std::size_t>(index)];
-    if (item.needsThumbnail && !item.thumbnailDone && !item.thumbnailFailed) {
-        --thumbnailsLeft;
-    }
+    pendingThumbItems.erase(index);
+    thumbnailsLeft -= IsThumbnailLeft(item) ? 1 : 0;
+    item.thumbnailOutdated = false;
     item.thumbnailFailed = !outcome.bitmap;
     if (outcome.bitmap) {
         if (!item.thumbnail) {
@@ -163,6 +182,8 @@ void CMediaFileList::Finish(int index, const ThumbnailOutcome& outcome)
         }
         item.thumbnailDone = true;
         item.thumbnail = outcome.bitmap;
+    } else if (item.thumbnail) {
+        DropBitmap(index);
     }
 }
 

@@ -51,6 +51,7 @@ CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* pare
     connect(thumbnails, &CThumbnailView::VisibleChanged, this, &CIEShellListCtrl::WorkAppeared);
     connect(&filler, &CListFiller::PieceBegins, this, &CIEShellListCtrl::KeepState);
     connect(&filler, &CListFiller::Filled, this, &CIEShellListCtrl::OnFilled);
+    connect(&filler, &CListFiller::ThumbnailsDue, this, &CIEShellListCtrl::WorkAppeared);
     connect(&filler, &CListFiller::FactsRead, this, [this] {
         allModel.FactsChanged();
         Q_EMIT StatusChanged();
@@ -98,6 +99,12 @@ void CIEShellListCtrl::OpenFolder(const std::string& path, const std::string& se
 
 void CIEShellListCtrl::Refresh()
 {
+    list.ForgetFailures();
+    Reread();
+}
+
+void CIEShellListCtrl::Reread()
+{
     if (!list.Folder().empty())
         OpenFolder(list.Folder());
 }
@@ -120,7 +127,8 @@ void CIEShellListCtrl::KeepState()
 
 void CIEShellListCtrl::OnFilled()
 {
-    Model().Reset(true);
+    if (!list.ItemsStayed() || Model().rowCount() != list.Count())
+        Model().Reset(true);
     keeper.Restore(*View(), list);
     SayWhyEmpty();
     if (!thumbnails->Visible() || style == ViewStyle::details)
@@ -189,7 +197,7 @@ void CIEShellListCtrl::SelectRows(const std::vector<std::pair<int, int>>& ranges
 void CIEShellListCtrl::SetFilter(int mode, int includeFolders)
 {
     if (list.SetFilter(mode, includeFolders))
-        Refresh();
+        Reread();
 }
 
 void CIEShellListCtrl::SelectAll()

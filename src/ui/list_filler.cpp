@@ -51,7 +51,7 @@ void CListFiller::FillPiece()
 
 void CListFiller::ReadFacts()
 {
-    if (IsReading() || list.AllFactsKnown() || factsTimer.isActive())
+    if (IsReading() || list.AllRead() || factsTimer.isActive())
         return;
     factsTimer.start(0);
     sinceFactsTold.start();
@@ -66,6 +66,8 @@ void CListFiller::FactsPiece()
         more = list.FactsStep(kFactsAtOnce);
     if (!more)
         factsTimer.stop();
+    if (!more && list.ThumbnailsLeft() > 0)
+        Q_EMIT ThumbnailsDue();
     if (!more || sinceFactsTold.elapsed() >= kTellMilliseconds) {
         sinceFactsTold.restart();
         Q_EMIT FactsRead();

@@ -33,6 +33,8 @@ Q_SIGNALS:
     // The items have been replaced, or the folder could not be read.
     void Filled();
     void FactsRead();
+    // All facts have been read, and some pictures have changed since their thumbnails were made.
+    void ThumbnailsDue();
 
 private:
     void FillPiece();

@@ -101,7 +101,6 @@ TEST_F(MediaFileList, ReadsALargeFolderInPiecesAndSortsItWhole)
     int steps = 0;
 
     while (list.FillStep()) {
-        EXPECT_TRUE(list.IsRefreshing());
         ++steps;
     }
 
@@ -110,7 +109,6 @@ TEST_F(MediaFileList, ReadsALargeFolderInPiecesAndSortsItWhole)
     for (int i = 0; i < kFiles; ++i) {
         ASSERT_EQ(list.Item(i).name, "p" + std::to_string(i) + ".jpg");
     }
-    EXPECT_FALSE(list.IsRefreshing());
 }
 
 TEST_F(MediaFileList, MakesVisibleThumbnailsFirstThenTheRestThenStops)
@@ -327,23 +325,46 @@ TEST_F(MediaFileList, LetsGoOfBitmapsFarAwayAndTakesThemBackFromTheStore)
     EXPECT_EQ(services.images.opened.size(), 1U) << "from the store alone";
 }
 
-TEST_F(MediaFileList, ARefreshKeepsThePicturesOfUnchangedFiles)
+TEST_F(MediaFileList, ARefreshReadsAgainOnlyWhatHasChanged)
 {
-    const std::string changed = Make("a.jpg");
-    Make("b.jpg");
+    const std::string changed = Make("changed.jpg");
+    const std::string farChanged = Make("far.jpg");
+    Make("broken.jpg", "none");
+    Make("same.jpg");
     list.Fill(place);
-    Tick({0, 1});
+    Tick({0, 3});
+    list.FactsStep(10);
+    const std::uint64_t bytes = list.KnownBytes();
+    services.images.opened.clear();
 
-    services.files.SetFileTime(changed, 0, 123456789012345678);
+    Make("changed.jpg", "40x30 and longer");
+    services.files.SetFileTime(farChanged, 0, 123456789012345678);
     Make("0.jpg");
-    list.Refresh();
-    while (list.FillStep()) {
-    }
+    list.Fill(place);
 
-    EXPECT_FALSE(list.Item(0).thumbnail);
-    EXPECT_FALSE(list.Item(1).thumbnail);
-    EXPECT_TRUE(list.Item(2).thumbnail);
-    EXPECT_EQ(list.ThumbnailsLeft(), 2);
+    EXPECT_EQ(Names(), "0.jpg broken.jpg changed.jpg far.jpg same.jpg ");
+    EXPECT_FALSE(list.ItemsStayed());
+    EXPECT_EQ(list.ThumbnailsLeft(), 1);
+    EXPECT_EQ(list.KnownBytes(), bytes);
+    EXPECT_TRUE(list.Item(2).thumbnail) << "on show until there is a new one";
+    EXPECT_EQ(Tick({0, 2}), (std::vector<int>{0, 2}));
+    EXPECT_EQ(services.images.opened.size(), 2U);
+    EXPECT_FALSE(list.FactsStep(10));
+    EXPECT_EQ(Tick({0, 2}), (std::vector<int>{3}));
+    EXPECT_EQ(services.images.opened.back(), farChanged);
+    EXPECT_EQ(list.KnownBytes(), bytes + 9 + 7);
+    EXPECT_EQ(list.ThumbnailsLeft(), 0);
+
+    Make("changed.jpg", "spoilt");
+    list.Fill(place);
+    Tick({0, 4});
+    EXPECT_TRUE(list.ItemsStayed());
+    EXPECT_FALSE(list.Item(2).thumbnail) << "a picture of what the file no longer holds";
+
+    services.images.opened.clear();
+    list.ForgetFailures();
+    Tick({0, 4});
+    EXPECT_EQ(services.images.opened.size(), 2U) << "both that failed";
 }
 
 TEST_F(MediaFileList, DeferredTextsAreSetWhenNothingElseIsLeft)
