@@ -39,7 +39,7 @@ public:
     virtual ~CWaitable() = default;
 };
 
-// Ends one wait for each time that it was set since the wait before.
+// Ends one wait; set again before that, it still ends only one.
 class CEvent : public CWaitable
 {
 public:
@@ -106,8 +106,8 @@ public:
     virtual DriveType GetDriveType(const std::string& root) = 0;
 
     // Starts a thread that gets processor time only when nothing else wants it; null when it cannot be
-    // started.
-    virtual std::unique_ptr<CThread> StartIdleThread(std::function<void()> body) = 0;
+    // started. What `body` returns is the thread's exit code.
+    virtual std::unique_ptr<CThread> StartIdleThread(std::function<int()> body) = 0;
     // Waits until all of them have ended, at ordinary priority from now on.
     virtual void WaitForThreads(std::span<CThread* const> threads) = 0;
 };

@@ -33,6 +33,7 @@ void CLinuxServices::Install()
     os.registry = &registry;
     os.profiles = &profiles;
     os.shell = &shell;
+    os.changes = &changes;
     os.libraries = &libraries;
 }
 

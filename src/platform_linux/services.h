@@ -7,6 +7,7 @@
 #pragma once
 
 #include "platform_linux/dynamic_libraries.h"
+#include "platform_linux/linux_change_notifications.h"
 #include "platform_linux/linux_file_system.h"
 #include "platform_linux/linux_profiles.h"
 #include "platform_linux/linux_registry.h"
@@ -32,6 +33,7 @@ private:
     CLinuxRegistry registry;
     CLinuxProfiles profiles;
     CLinuxShell shell;
+    CLinuxChangeNotifications changes;
     CDynamicLibraries libraries;
 };
 

@@ -60,13 +60,6 @@ bool ReadsOne(const std::string& path)
     return file.get() == '1';
 }
 
-bool IsRemovable(const MountEntry& entry)
-{
-    const std::string device = "/sys/dev/block/" + entry.device;
-    return IsBelow(entry.mountPoint, "/media") || IsBelow(entry.mountPoint, "/run/media") ||
-           ReadsOne(device + "/removable") || ReadsOne(device + "/../removable");
-}
-
 }  // namespace
 
 std::vector<MountEntry> ParseMountTable(std::string_view table)
@@ -89,29 +82,45 @@ std::vector<MountEntry> ParseMountTable(std::string_view table)
     return entries;
 }
 
-bool HoldsFiles(const MountEntry& entry)
+bool IsRemovable(const MountEntry& entry)
+{
+    const std::string device = "/sys/dev/block/" + entry.device;
+    return IsBelow(entry.mountPoint, "/media") || IsBelow(entry.mountPoint, "/run/media") ||
+           ReadsOne(device + "/removable") || ReadsOne(device + "/../removable");
+}
+
+bool IsSystemPlace(std::string_view mountPoint)
 {
     static constexpr std::array<std::string_view, 8> kSystemPlaces = {"/boot", "/efi", "/proc", "/sys",
                                                                       "/dev",  "/run", "/snap", "/var/lib"};
+    return std::any_of(kSystemPlaces.begin(), kSystemPlaces.end(),
+                       [&](auto place) { return IsAtOrBelow(mountPoint, place); });
+}
+
+bool HoldsFiles(const MountEntry& entry)
+{
     static constexpr std::array<std::string_view, 13> kTypesWithoutDisk = {
         "nfs",  "nfs4", "cifs", "smb3",     "9p",      "virtiofs",  "vboxsf",
         "ceph", "afs",  "zfs",  "ecryptfs", "fuseblk", "fuse.sshfs"};
     if (entry.mountPoint == "/" || IsUserMount(entry.mountPoint))
         return entry.type != "squashfs" && entry.type != "autofs";
-    const bool isSystems = std::any_of(kSystemPlaces.begin(), kSystemPlaces.end(),
-                                       [&](auto place) { return IsAtOrBelow(entry.mountPoint, place); });
-    if (isSystems || entry.type == "squashfs")
+    if (IsSystemPlace(entry.mountPoint) || entry.type == "squashfs")
         return false;
     return entry.source.starts_with("/dev/") || IsOneOf(entry.type, kTypesWithoutDisk);
 }
 
-std::vector<platform::Volume> MountedVolumes()
+std::vector<MountEntry> ReadMountTable()
 {
     std::ifstream file("/proc/self/mountinfo");
     std::ostringstream table;
     table << file.rdbuf();
+    return ParseMountTable(table.str());
+}
+
+std::vector<platform::Volume> MountedVolumes()
+{
     std::map<std::string, platform::Volume> found;
-    for (const MountEntry& entry : ParseMountTable(table.str())) {
+    for (const MountEntry& entry : ReadMountTable()) {
         // Containers mount single files. A share is always a folder, and asking one that is gone would hang.
         struct stat facts {
         };

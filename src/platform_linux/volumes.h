@@ -24,6 +24,11 @@ std::vector<MountEntry> ParseMountTable(std::string_view table);
 // Whether people keep files there: disks, shares and the root, not the kernel's own file systems nor the
 // places that belong to the system alone.
 bool HoldsFiles(const MountEntry& entry);
+// A place that belongs to the system alone, by its path.
+bool IsSystemPlace(std::string_view mountPoint);
+bool IsRemovable(const MountEntry& entry);
+// What is mounted now, in the order of mounting.
+std::vector<MountEntry> ReadMountTable();
 // In the order of their mount points.
 std::vector<platform::Volume> MountedVolumes();
 

@@ -40,8 +40,8 @@ public:
 
     // Shows a folder; `selectName` becomes selected when it is there.
     void OpenFolder(const std::string& path, const std::string& selectName = {});
-    // Reads the folder anew; selection, current item and scroll position stay. Pictures that could not be shown
-    // are tried again.
+    // Reads the folder anew; selection, current item and scroll position stay. Pictures that could not be
+    // shown are tried again.
     void Refresh();
     void SetViewStyle(ViewStyle wanted);
     ViewStyle Style() const { return style; }
