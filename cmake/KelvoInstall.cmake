@@ -10,6 +10,8 @@ foreach(program IN ITEMS kelvo kelvoctl)
   endif()
 endforeach()
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/assets/program/ DESTINATION share/kelvo)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/share/kelvo/skin/ DESTINATION share/kelvo/skin
+        FILES_MATCHING PATTERN "*.png" PATTERN "*.ini")
 
 set(desktop ${CMAKE_SOURCE_DIR}/assets/desktop)
 install(FILES ${desktop}/org.kelvo.Kelvo.desktop DESTINATION share/applications)
