@@ -9,6 +9,8 @@
 #include "platform/skin_hook.h"
 #include "platform/utility.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 namespace app
@@ -65,10 +67,12 @@ private:
     std::string name;
 };
 
-void ReadFont(const std::string& path, const char* sizeKey, FontGroup& font)
+void ReadFont(const std::string& path, FontGroup& font)
 {
     const CSection section(path, kFontSection);
-    section.Read(sizeKey, 1, kMostPixels, font.size);
+    section.Read("font_size", 1, kMostPixels, font.size);
+    section.Read("font_size_button", 1, kMostPixels, font.size);
+    section.Read("font_size_radio", 1, kMostPixels, font.radioSize);
     std::string face = font.faceName;
     section.Read("font_name", face);
     if (face.size() <= kLongestFaceName) {
@@ -85,7 +89,14 @@ void ReadElement(const std::string& path, SkinElement& element)
 {
     const CSection section(path, element.name);
     const bool isRadio = element.kind == ElementKind::radioButton;
-    section.Read(isRadio ? "rect_radio" : "rect", element.rect);
+    section.Read("rect", element.rect);
+    if (isRadio) {
+        section.Read("rect_radio", element.rect);
+    } else if (element.number > 0) {
+        section.Read(fmt::format("rect_{}", element.number).c_str(), element.rect);
+    } else if (element.kind == ElementKind::plain) {
+        section.Read("rectPlay", element.rect);
+    }
     if (element.kind != ElementKind::plain) {
         section.Read(isRadio ? "image_radio" : "image", element.image);
     }
@@ -119,7 +130,7 @@ void ReadLayout(const std::string& skinFolder, std::string_view fileName, Window
     if (path.empty()) {
         return;
     }
-    ReadFont(path, layout.sizeKey, layout.font);
+    ReadFont(path, layout.font);
     for (SkinElement& element : layout.elements) {
         ReadElement(path, element);
     }

@@ -24,6 +24,7 @@ inline constexpr std::size_t kButtonStates = 4;
 struct FontGroup {
     std::string faceName;  // empty: the interface's
     int size = 0;          // height in pixels at normal density; 0: the interface's
+    int radioSize = 0;     // the same for radio buttons
     std::array<std::optional<platform::ColorRef>, kButtonStates> colours;
 };
 
@@ -35,6 +36,7 @@ enum class ElementKind {
 
 struct SkinElement {
     std::string name;  // the section
+    int number = 0;    // of several in one section: placed by "rect_%d" when above 0
     ElementKind kind = ElementKind::plain;
     std::optional<platform::Rect> rect;  // in the window, left to right
     std::string image;                   // relative to the skin folder, as the other two
@@ -48,7 +50,6 @@ struct SkinElement {
 // A window's look. `elements` is filled by the window with what it has, and with its presets.
 struct WindowLayout {
     FontGroup font;
-    const char* sizeKey = "font_size";
     std::vector<SkinElement> elements;
     std::optional<platform::Rect> panelRect;
     std::optional<platform::ColorRef> panelColor;

@@ -2,79 +2,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/tab_window.h"
 
+#include "ui/controls/tab_button.h"
 #include "ui/display_text.h"
-#include "ui/icons.h"
-#include "ui/style.h"
-#include "ui/theme.h"
 #include "ui/words.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
+#include <QKeyEvent>
+
+#include <algorithm>
 
 namespace ui
 {
 
-namespace
-{
-
-class CTabButton : public QAbstractButton
-{
-public:
-    CTabButton(const QString& caption, QString drawing, QWidget* parent)
-        : QAbstractButton(parent), iconName(std::move(drawing))
-    {
-        setText(caption);
-        setAccessibleName(caption);
-        setCheckable(true);
-        setAttribute(Qt::WA_Hover);
-        setFocusPolicy(Qt::TabFocus);
-    }
-
-    QSize sizeHint() const override
-    {
-        return {fontMetrics().horizontalAdvance(text()) + kIcon + 8 * kGrid, 9 * kGrid};
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        const ThemeColours& colours = CTheme::Colours();
-        if (underMouse() && isEnabled())
-            FillRounded(painter, rect().adjusted(2, 3, -2, -5), colours.hover, kCornerRadius);
-        const QColor colour = isChecked() ? colours.accent : isEnabled() ? colours.text : colours.dimText;
-        const int textWidth = fontMetrics().horizontalAdvance(text());
-        const int left = (width() - kIcon - 2 * kGrid + kGrid / 2 - textWidth) / 2;
-        painter.drawPixmap(left, (height() - kIcon) / 2,
-                           IconPixmap(iconName, kIcon, colour, devicePixelRatioF()));
-        painter.setPen(isEnabled() ? colours.text : colours.dimText);
-        painter.drawText(rect().adjusted(left + kIcon + 2 * kGrid - kGrid / 2, 0, 0, 0),
-                         Qt::AlignVCenter | Qt::AlignLeft, text());
-        painter.fillRect(0, height() - 1, width(), 1, colours.line);
-        if (isChecked())
-            FillRounded(painter, QRect(2 * kGrid, height() - 3, width() - 4 * kGrid, 3), colours.accent, 1.5);
-        if (hasFocus()) {
-            painter.setPen(colours.accent);
-            painter.drawRect(rect().adjusted(2, 2, -3, -5));
-        }
-    }
-
-private:
-    static constexpr int kIcon = 16;
-    QString iconName;
-};
-
-}  // namespace
-
 TabWindow::TabWindow(const app::CTabs& tabs, QWidget* parent) : QWidget(parent), state(tabs)
 {
-    static constexpr std::array drawings = {"favourite", "folder", "search"};
+    struct Look {
+        const char* drawing;
+        StringId tip;
+    };
+    static constexpr std::array<Look, 3> looks = {{{"favourite", StringId::skinTabDeviceTip},
+                                                   {"folder", StringId::skinTabFolderTip},
+                                                   {"search", StringId::skinTabSearchTip}}};
+    InstallTabAccessibility();
+    setAccessibleName(Text(StringId::skinTabs));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         const app::Tab& tab = state.All()[i];
-        buttons[i] = new CTabButton(Text(tab.caption), QString::fromLatin1(drawings[i]), this);
+        buttons[i] = new CTabButton(Text(tab.caption), QStringLiteral("Manager/") + Shown(tab.image),
+                                    QString::fromLatin1(looks[i].drawing), this);
+        buttons[i]->setToolTip(Text(looks[i].tip));
         connect(buttons[i], &QAbstractButton::clicked, this, [this, id = tab.id] {
             // The state decides which tab is down.
             Update();
@@ -92,7 +50,52 @@ void TabWindow::Update()
         buttons[i]->setChecked(tab.checked);
         buttons[i]->setEnabled(tab.enabled);
         buttons[i]->setVisible(tab.visible);
+        buttons[i]->setFocusPolicy(tab.checked ? Qt::TabFocus : Qt::NoFocus);
+        if (tab.checked)
+            buttons[i]->raise();
     }
+}
+
+CTabButton* TabWindow::Usable(int from, int step) const
+{
+    for (int i = from; i >= 0 && i < int(buttons.size()); i += step) {
+        CTabButton* button = buttons[std::size_t(i)];
+        if (button->isEnabled() && !button->isHidden())
+            return button;
+    }
+    return nullptr;
+}
+
+void TabWindow::keyPressEvent(QKeyEvent* event)
+{
+    const auto at = std::find_if(buttons.begin(), buttons.end(),
+                                 [](const CTabButton* button) { return button->hasFocus(); });
+    const int here = int(at - buttons.begin());
+    const int last = int(buttons.size()) - 1;
+    const int right = layoutDirection() == Qt::RightToLeft ? -1 : 1;
+    CTabButton* next = nullptr;
+    switch (event->key()) {
+    case Qt::Key_Right:
+        next = Usable(here + right, right);
+        break;
+    case Qt::Key_Left:
+        next = Usable(here - right, -right);
+        break;
+    case Qt::Key_Home:
+        next = Usable(0, 1);
+        break;
+    case Qt::Key_End:
+        next = Usable(last, -1);
+        break;
+    default:
+        return QWidget::keyPressEvent(event);
+    }
+    if (at == buttons.end() || !next)
+        return;
+    next->click();
+    // A panel may have taken the focus; the next arrow key shall find the bar.
+    if (next->isChecked())
+        next->setFocus(Qt::TabFocusReason);
 }
 
 QAbstractButton* TabWindow::Button(int id) const

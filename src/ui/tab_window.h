@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // TabWindow: the bar of tabs above the left pane.
+//
+// The arrow keys, Home and End go from tab to tab and show each one's panel.
 #pragma once
 
 #include "app/left_pane.h"
@@ -12,6 +14,8 @@
 
 namespace ui
 {
+
+class CTabButton;
 
 class TabWindow : public QWidget
 {
@@ -27,9 +31,15 @@ Q_SIGNALS:
     // A tab was clicked; its command is to be carried out.
     void Clicked(int id);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    // The next one that can be chosen from `from` on, `from` itself included; null when there is none.
+    CTabButton* Usable(int from, int step) const;
+
     const app::CTabs& state;
-    std::array<QAbstractButton*, 3> buttons{};
+    std::array<CTabButton*, 3> buttons{};
 };
 
 }  // namespace ui

@@ -52,8 +52,8 @@ void CButtonEx::SetFontGroup(const app::FontGroup& group)
 {
     // Resolved against what the window gives it, so that only what the group names is fixed.
     setFont(SkinFont(group, QFont()));
-    for (std::size_t state = 0; state < colours.size(); ++state)
-        colours[state] =
+    for (std::size_t state = 0; state < stateColours.size(); ++state)
+        stateColours[state] =
             group.colours[state] ? std::optional(SkinColour(*group.colours[state])) : std::nullopt;
     updateGeometry();
     update();
@@ -90,7 +90,7 @@ QPixmap CButtonEx::Face() const
 QColor CButtonEx::TextColour() const
 {
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    const auto& colour = colours[static_cast<std::size_t>(State())];
+    const auto& colour = stateColours[static_cast<std::size_t>(State())];
     if (!colour)
         return palette().color(group, QPalette::ButtonText);
     // Over pictures the skin knows what it does.
@@ -174,10 +174,12 @@ void CButtonEx::DrawContent(QPainter& painter) const
         painter.drawPixmap(placed({{start, (height() - image.height()) / 2}, image}), face);
     painter.setPen(TextColour());
     const QRect box(start + image.width() + gap, 0, width() - start - image.width() - gap, height());
-    const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine |
-                      (words < box.width() ? int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft))
-                                           : int(Qt::AlignHCenter));
-    painter.drawText(placed(box), flags, text());
+    const bool fits = words <= box.width();
+    const QString shown =
+        fits ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, box.width(), Qt::TextShowMnemonic);
+    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    painter.drawText(placed(box), int(side | Qt::AlignVCenter) | Qt::TextShowMnemonic | Qt::TextSingleLine,
+                     shown);
 }
 
 void CButtonEx::DrawFocus(QPainter& painter)

@@ -56,7 +56,7 @@ private:
     QString imageName;
     std::array<QString, 3> pieces;
     int pieceWidth = 0;
-    std::array<std::optional<QColor>, app::kButtonStates> colours;
+    std::array<std::optional<QColor>, app::kButtonStates> stateColours;
 };
 
 class CRescaleButton : public CButtonEx

@@ -64,7 +64,8 @@ void CDialogSkin::CollectElements()
             continue;
         elements.push_back({widget, {}, widget->minimumSize()});
         app::SkinElement element;
-        element.name = name.toStdString();
+        element.name = name.section(QLatin1Char('#'), 0, 0).toStdString();
+        element.number = name.section(QLatin1Char('#'), 1).toInt();
         element.kind = KindOf(*widget);
         read.elements.push_back(element);
     }
@@ -96,6 +97,8 @@ void CDialogSkin::DressElement(Element& element, const app::SkinElement& look,
     element.widget->setMinimumSize(element.ownLeast.expandedTo(least));
     const auto name = [](const std::string& text) { return QString::fromStdString(text); };
     const std::optional<QColor> colour = look.color ? std::optional(SkinColour(*look.color)) : std::nullopt;
+    if (qobject_cast<QRadioButton*>(element.widget))
+        element.widget->setFont(SkinFont({layout.font.faceName, layout.font.radioSize, 0, {}}, QFont()));
     if (auto* button = qobject_cast<CButtonEx*>(element.widget)) {
         button->SetFontGroup(layout.font);
         if (!look.image.empty())

@@ -3,11 +3,11 @@
 // CDialogSkin: dresses a window after its layout file, and again when theme, font or language change.
 //
 // The window is built with Qt layouts and is whole without a skin. Its elements are the widgets in it that
-// have an object name: that name is the section of the file. A rectangle is the element's least size. Where
-// the file places every direct child of the window, no two of them overlap and every text fits its place in
-// the present language and font, the window takes exactly those places (from the right in a right-to-left
-// language) and a fixed size; in any other case the Qt layout stands. docs/formats/skin.md has the keys,
-// docs/decisions/0008-skin.md the reasons.
+// have an object name: that name is the section of the file ("star#2" the second of section "star"). A
+// rectangle is the element's least size. Where the file places every direct child of the window, no two of
+// them overlap and every text fits its place in the present language and font, the window takes exactly those
+// places (from the right in a right-to-left language) and a fixed size; in any other case the Qt layout
+// stands. docs/formats/skin.md has the keys, docs/decisions/0008-skin.md the reasons.
 #pragma once
 
 #include "app/skin_layout.h"
