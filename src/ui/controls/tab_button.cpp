@@ -36,10 +36,6 @@ public:
         state.selected = Tab().isChecked();
         return state;
     }
-    QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Name ? Tab().text() : QAccessibleWidget::text(kind);
-    }
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
     void doAction(const QString& action) override
     {
@@ -71,6 +67,7 @@ void InstallTabAccessibility()
 CTabButton::CTabButton(const QString& caption, const QString& image, const QString& drawing, QWidget* parent)
     : CButtonEx(caption, parent)
 {
+    setAccessibleName(caption);
     setCheckable(true);
     setAutoDefault(false);
     setIcon(ThemedIcon(drawing));
