@@ -39,6 +39,7 @@ std::size_t CRangeReader::Read(std::span<std::byte> block)
         taken = 0;
         filled = wanted > 0 ? file.ReadAt(position, std::span(buffer.get(), wanted)) : 0;
         position += filled;
+        failed = failed || filled < wanted;
     }
     const std::size_t count = std::min(block.size(), filled - taken);
     std::memcpy(block.data(), buffer.get() + taken, count);

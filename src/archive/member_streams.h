@@ -22,6 +22,8 @@ public:
     std::size_t Read(std::span<std::byte> block);
     // Whether reading stopped at the end of the range, not before.
     bool ReachedEnd() const { return position >= end; }
+    // Whether the file gave less than it should have.
+    bool Failed() const { return failed; }
 
 private:
     platform::CFile& file;
@@ -31,6 +33,7 @@ private:
     std::unique_ptr<std::byte[]> buffer;
     std::size_t taken = 0;
     std::size_t filled = 0;
+    bool failed = false;
 };
 
 // What both directions share: the input, the abort flag and the progress.

@@ -82,6 +82,8 @@ public:
     bool ExtractToFolder(std::size_t position, const std::string& folder);
     // `data` is empty after a failure.
     bool ExtractToMemory(std::size_t position, std::string& data);
+    // Whether the latest extraction failed for what is stored, and would fail again.
+    bool IsDamaged() const { return damaged; }
 
     // Needs mode readWrite. A member that is deleted already counts as success.
     bool Remove(std::size_t position);
@@ -116,6 +118,7 @@ private:
     bool ReadAll();
     void KeepState();
     bool MayExtract(std::size_t position);
+    bool FailExtraction(int result, bool unreadable);
     bool PrepareHeader();
     bool WriteCount(std::uint32_t count);
     std::unique_ptr<platform::CFile> OpenSource(const std::string& source, const AddOptions& options,
@@ -131,6 +134,7 @@ private:
     std::unique_ptr<CPackageIndex> index;
     platform::FileStamp stamp;       // of the file as it was opened
     bool changed = false;            // the file, since it was opened
+    bool damaged = false;            // the member of the latest extraction
     std::set<std::size_t> newTexts;  // members whose texts in memory differ from the file's
     std::unique_ptr<CDeflater> deflater;
     std::atomic<bool> aborted = false;

@@ -164,6 +164,7 @@ bool CPackageArchive::WriteMember(platform::CFile& source, PackageMember& member
 
 bool CPackageArchive::MayExtract(std::size_t position)
 {
+    damaged = false;
     if (!IsOpen())
         return Fail("no archive is open");
     if (!Holds(position) || Member(position).deleted)
@@ -186,7 +187,15 @@ bool CPackageArchive::ExtractToMemory(std::size_t position, std::string& data)
         return true;
     data.clear();
     data.shrink_to_fit();
-    return Fail(result == kUserAbort ? "stopped by the user" : "the member's data are damaged");
+    return FailExtraction(result, reader.Failed());
+}
+
+bool CPackageArchive::FailExtraction(int result, bool unreadable)
+{
+    damaged = result != kUserAbort && !unreadable;
+    if (result == kUserAbort)
+        return Fail("stopped by the user");
+    return unreadable ? FailAs("the archive cannot be read") : Fail("the member's data are damaged");
 }
 
 bool CPackageArchive::ExtractToFolder(std::size_t position, const std::string& folder)
@@ -210,10 +219,8 @@ bool CPackageArchive::ExtractToFolder(std::size_t position, const std::string& f
     CFileSink ends(reader, LengthOf(*file), watch, writer, MostOutput(member));
     const int result = Inflate(ends);
     bool done = result == 0;
-    if (result == kUserAbort)
-        Fail("stopped by the user");
-    else if (!done)
-        Fail("the member's data are damaged");
+    if (!done)
+        FailExtraction(result, reader.Failed());
     else if (!writer.Flush())
         done = FailAs("the file cannot be written");
     output.reset();

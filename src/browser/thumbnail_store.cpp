@@ -52,7 +52,7 @@ LoadedEntry LoadEntry(CPackageArchive& opened, std::size_t index)
 {
     std::string data;
     if (!opened.ExtractToMemory(index, data)) {
-        return {nullptr, true};
+        return {nullptr, opened.IsDamaged()};
     }
     const std::string path = TemporaryPath(opened.Member(index).name);
     auto file = path.empty() ? nullptr : Files().Open(path, platform::OpenMode::create);
@@ -136,7 +136,9 @@ bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitm
     options.memberName = entryName;
     CPackageArchive opened;
     opened.SetPatience(manager.Patience());
-    const bool kept = OpenForAdding(opened, archivePath) && opened.AddFile(temporary, options);
+    // A member that is there still is sound and was only unreadable at the moment: its texts stay with it.
+    const bool kept = OpenForAdding(opened, archivePath) && !opened.FindExact(entryName) &&
+                      opened.AddFile(temporary, options);
     opened.Close(false);
     Files().DeleteFile(temporary);
     return kept;

@@ -234,22 +234,27 @@ TEST_F(MediaFileList, ADamagedArchiveIsReplacedAndAnEntryThatCannotBeReadIsMadeA
     EXPECT_EQ(Result("a.jpg"), ThumbnailResult::reused);
 }
 
-TEST_F(MediaFileList, ASoundMemberStaysWhenTheTemporaryFolderCannotServe)
+TEST_F(MediaFileList, ASoundMemberStaysWhenItCannotBeReadOrUnpackedJustNow)
 {
     Make("a.jpg");
     Result("a.jpg");
-    support::CFaultyFileSystem faulty(services.files);
-    faulty.refused = {services.files.GetTempPath() + "/a.jpg.jpg"};
+    const std::string archivePath = services.folder.Path("ThumbDB/Tmb0.db");
+    support::CFaultyFileSystem fullTemporaryFolder(services.files);
+    fullTemporaryFolder.refused = {services.files.GetTempPath() + "/a.jpg.jpg"};
+    support::CFaultyFileSystem failingDisk(services.files);
+    failingDisk.badFrom = std::filesystem::file_size(archivePath) - 1;
 
-    {
-        const support::CServicesGuard full(faulty);
-        Result("a.jpg");
+    for (support::CFaultyFileSystem* faulty : {&fullTemporaryFolder, &failingDisk}) {
+        {
+            const support::CServicesGuard trouble(*faulty);
+            Result("a.jpg");
+        }
+
+        EXPECT_EQ(Result("a.jpg"), ThumbnailResult::reused);
+        archive::CPackageArchive stored;
+        ASSERT_TRUE(stored.Open(archivePath, archive::CPackageArchive::Mode::read));
+        EXPECT_EQ(stored.Count(), 1U);
     }
-
-    EXPECT_EQ(Result("a.jpg"), ThumbnailResult::reused);
-    archive::CPackageArchive stored;
-    ASSERT_TRUE(stored.Open(services.folder.Path("ThumbDB/Tmb0.db"), archive::CPackageArchive::Mode::read));
-    EXPECT_EQ(stored.Count(), 1U);
 }
 
 TEST_F(MediaFileList, OddEntriesOfAFolderDoNoHarm)

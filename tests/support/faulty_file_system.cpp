@@ -19,7 +19,8 @@ public:
     std::size_t ReadAt(std::uint64_t offset, std::span<std::byte> buffer) override
     {
         ++owner.reads;
-        return inner->ReadAt(offset, buffer);
+        const std::uint64_t sound = offset < owner.badFrom ? owner.badFrom - offset : 0;
+        return inner->ReadAt(offset, buffer.first(std::min<std::uint64_t>(buffer.size(), sound)));
     }
     bool WriteAt(std::uint64_t offset, std::span<const std::byte> bytes) override
     {

@@ -32,9 +32,10 @@ public:
     Fault fault = Fault::fail;
     // How many bytes may still be written at or behind the end of files: the room on the disk.
     std::uint64_t room = std::numeric_limits<std::uint64_t>::max();
-    std::set<std::string> refused;  // paths that cannot be opened
-    std::size_t steps = 0;          // steps seen so far
-    std::size_t reads = 0;          // calls of ReadAt
+    std::set<std::string> refused;                                      // paths that cannot be opened
+    std::uint64_t badFrom = std::numeric_limits<std::uint64_t>::max();  // where files cannot be read any more
+    std::size_t steps = 0;                                              // steps seen so far
+    std::size_t reads = 0;                                              // calls of ReadAt
 
     std::unique_ptr<platform::CFile> Open(const std::string& path, platform::OpenMode mode) override;
     std::optional<platform::FileFacts> FindFirstFile(const std::string& path) override
