@@ -249,6 +249,15 @@ SelectionFacts CIEShellListCtrl::Selection()
     return facts;
 }
 
+void CIEShellListCtrl::SelectOnly(int row)
+{
+    const SelectionFacts facts = Selection();
+    const QModelIndex index = Model().index(row, 0);
+    if (facts.files != 1 || View()->currentIndex() != index || !View()->selectionModel()->isSelected(index))
+        SelectRows({{row, row}}, row);
+    View()->scrollTo(index);
+}
+
 void CIEShellListCtrl::Activate(const QModelIndex& index)
 {
     if (!index.isValid() || index.row() >= list.Count())
@@ -256,6 +265,8 @@ void CIEShellListCtrl::Activate(const QModelIndex& index)
     const std::string path = list.PathOf(index.row());
     if (list.Item(index.row()).isFolder)
         Q_EMIT FolderActivated(path);
+    else if ((list.Item(index.row()).types & browser::kTypesWithThumbnail) != 0)
+        Q_EMIT PictureActivated(index.row());
     else
         platform::Os().shell->ShellExecute(path);
 }

@@ -55,7 +55,9 @@ public:
     // Puts the selected files on the clipboard.
     void CopySelection() const;
     SelectionFacts Selection();
-    // Opens the current file with the desktop's program, or tells of the current folder.
+    // This item alone is selected, current and in sight.
+    void SelectOnly(int row);
+    // Tells of a folder or picture; opens any other file with the desktop's program.
     void Activate(const QModelIndex& index);
 
     // One tick; false when nothing is left to do.
@@ -75,6 +77,8 @@ Q_SIGNALS:
     void StatusChanged();
     void ThumbnailMade();
     void FolderActivated(const std::string& path);
+    // A photo, handset image or clip is to be shown large.
+    void PictureActivated(int row);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -35,9 +35,9 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       state({ReadPrinterDefaults, [this](bool on) { setEnabled(on); },
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
-      right(new CIEShellListView(owner.DbFolder(), *menu)), status(new CStatusBar(this)),
-      fileCommands(router, *this), editCommands(router, *this), viewCommands(router, *this),
-      toolCommands(router, *this), helpCommands(router, *this)
+      right(new CIEShellListView(owner.DbFolder(), *menu)), pages(new CViewerPages(right)),
+      status(new CStatusBar(this)), fileCommands(router, *this), editCommands(router, *this),
+      viewCommands(router, *this), toolCommands(router, *this), helpCommands(router, *this)
 {
     UseSkin(owner.SkinFolder());
     LoadSettings();
@@ -71,12 +71,12 @@ void CMainFrame::BuildPanes()
 {
     auto* splitter = new QSplitter(this);
     splitter->addWidget(left);
-    splitter->addWidget(right);
+    splitter->addWidget(pages);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
     splitter->setSizes({kLeftWidth, kRightWidth});
     left->setMinimumWidth(40 * kGrid);
-    right->setMinimumWidth(60 * kGrid);
+    pages->setMinimumWidth(60 * kGrid);
     setCentralWidget(splitter);
     setStatusBar(status);
     right->setFocus();
@@ -99,12 +99,15 @@ void CMainFrame::ConnectList()
                                       app::CommandId::sizeLarge};
         menu->Check(sizes[static_cast<std::size_t>(step)]);
     });
+    connect(pages, &CViewerPages::CommandWanted, this,
+            [this](app::CommandId id) { menu->Action(id)->trigger(); });
     connect(right->UpAction(), &QAction::triggered, this, &CMainFrame::GoUp);
 }
 
 void CMainFrame::Tick()
 {
-    if (!List()->ThumbnailStep())
+    // The picture that is looked at has the machine for itself.
+    if (pages->IsViewing() || !List()->ThumbnailStep())
         thumbnailTimer.stop();
 }
 
@@ -142,7 +145,7 @@ void CMainFrame::keyPressEvent(QKeyEvent* event)
 void CMainFrame::SwitchPane()
 {
     if (left->isAncestorOf(focusWidget()))
-        right->setFocus(Qt::OtherFocusReason);
+        pages->setFocus(Qt::OtherFocusReason);
     else
         left->setFocus(Qt::OtherFocusReason);
 }

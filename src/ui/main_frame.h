@@ -17,6 +17,7 @@
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
 #include "ui/status_bar.h"
+#include "ui/viewer/viewer_pages.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -45,6 +46,7 @@ public:
     CLeftView* LeftView() const { return left; }
     CIEShellListView* ListView() const { return right; }
     CIEShellListCtrl* List() const { return right->Ctrl(); }
+    CViewerPages* Pages() const { return pages; }
     CStatusBar* Status() const { return status; }
     const CMainMenu* Menu() const { return menu; }
     const CCommandRouter& Router() const { return router; }
@@ -70,6 +72,7 @@ private:
     CMainMenu* menu;
     CLeftView* left;
     CIEShellListView* right;
+    CViewerPages* pages;  // holds the right pane
     CStatusBar* status;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
