@@ -13,6 +13,7 @@
 
 #include <QCloseEvent>
 #include <QLocale>
+#include <QPainter>
 #include <QToolButton>
 
 using platform::StringId;
@@ -29,6 +30,34 @@ constexpr int kHideAfter = 2500;  // milliseconds
 constexpr int kPanStep = 64;
 const QColor kFullScreenGround(0x10, 0x12, 0x13);
 
+// A round button that is seen on any picture.
+class CPlayButton : public QToolButton
+{
+public:
+    explicit CPlayButton(QWidget* parent) : QToolButton(parent)
+    {
+        setFixedSize(kPlaySide, kPlaySide);
+        setFocusPolicy(Qt::TabFocus);
+        setAccessibleName(Text(StringId::viewerPlay));
+        setToolTip(accessibleName());
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const ThemeColours& colours = CTheme::Colours();
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(hasFocus() ? colours.accent : colours.line, hasFocus() ? 2 : 1));
+        painter.setBrush(underMouse() || isDown() ? colours.hover : colours.view);
+        painter.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
+        const int side = kPlaySide / 2;
+        painter.drawPixmap(
+            (width() - side) / 2, (height() - side) / 2,
+            IconPixmap(QStringLiteral("viewer-play"), side, colours.text, devicePixelRatioF()));
+    }
+};
+
 QString Joined(const QStringList& facts)
 {
     return facts.join(QStringLiteral("  \u00b7  "));
@@ -38,16 +67,10 @@ QString Joined(const QStringList& facts)
 
 CPictureViewer::CPictureViewer(ThumbnailOf thumbnails, QWidget* parent)
     : QWidget(parent), thumbnailOf(std::move(thumbnails)), canvas(new CPictureCanvas(this)),
-      message(new CEmptyState(this)), play(new QToolButton(this)), bar(new CViewerBar(this))
+      message(new CEmptyState(this)), play(new CPlayButton(this)), bar(new CViewerBar(this))
 {
     setFocusProxy(canvas);
     setMouseTracking(true);
-    play->setIcon(ThemedIcon(QStringLiteral("viewer-play")));
-    play->setIconSize({kPlaySide / 2, kPlaySide / 2});
-    play->setFixedSize(kPlaySide, kPlaySide);
-    play->setFocusPolicy(Qt::TabFocus);
-    play->setAccessibleName(Text(StringId::viewerPlay));
-    play->setToolTip(play->accessibleName());
     play->hide();
     hideTimer.setSingleShot(true);
     hideTimer.setInterval(kHideAfter);

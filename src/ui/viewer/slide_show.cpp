@@ -12,6 +12,7 @@
 #include <QGraphicsOpacityEffect>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QScreen>
 
 using platform::StringId;
 
@@ -191,6 +192,8 @@ CSlideShow* StartSlideShow(std::vector<std::string> paths, const std::string& fi
     if (paths.empty())
         return nullptr;
     auto* show = new CSlideShow(std::move(paths), first, window);
+    if (window)
+        show->setGeometry(window->screen()->geometry());
     show->showFullScreen();
     show->setFocus();
     return show;

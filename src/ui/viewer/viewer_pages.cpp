@@ -4,6 +4,8 @@
 
 #include "ui/viewer/picture_viewer.h"
 
+#include <QScreen>
+
 #include <utility>
 
 namespace ui
@@ -94,8 +96,10 @@ void CViewerPages::SetFullScreen(bool on)
     isFullScreen = on;
     viewer->SetFullScreen(on);
     if (on) {
+        const QRect wholeScreen = screen()->geometry();
         viewer->setParent(window(), Qt::Window);
         setFocusProxy(right);
+        viewer->setGeometry(wholeScreen);
         viewer->showFullScreen();
     } else {
         addWidget(viewer);
