@@ -92,10 +92,7 @@ TEST(PictureWalk, ANewListKeepsThePictureOrGoesToTheNextOneStillThere)
 
         walk.SetNames(row.now);
 
-        EXPECT_EQ(walk.Current(), row.then);
-        EXPECT_EQ(walk.Nearby().size(),
-                  std::min<std::size_t>(row.now.size(), row.now == Names{"x", "y"} ? 2 : 3))
-            << row.at;
+        EXPECT_EQ(walk.Current(), row.then) << row.at;
     }
 }
 

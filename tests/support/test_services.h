@@ -13,7 +13,9 @@
 #include "support/temp_folder.h"
 #include "support/test_file_system.h"
 
+#include <atomic>
 #include <map>
+#include <mutex>
 #include <set>
 #include <sstream>
 #include <tuple>
@@ -132,16 +134,20 @@ private:
     platform::CProfiles& profiles;
 };
 
-// A picture is a text file "WIDTHxHEIGHT" with an EXIF date behind it; anything else is none.
+// A picture is a text file "WIDTHxHEIGHT" with an EXIF date behind it; anything else is none. All of it is
+// of one grey. May be used from several threads, but for the list of what was opened.
 class CTestImages : public platform::CImageLibrary
 {
 public:
-    int rendered = 0;
+    std::atomic<int> rendered = 0;
     std::vector<std::string> opened;
 
     std::unique_ptr<platform::CImageSource> Open(const std::string& path) override
     {
-        opened.push_back(path);
+        {
+            const std::lock_guard lock(guard);
+            opened.push_back(path);
+        }
         auto source = std::make_unique<CSource>(*this);
         char letter = 0;
         std::istringstream text(ReadBytes(path));
@@ -166,6 +172,7 @@ public:
     }
 
 private:
+    std::mutex guard;
     struct CSource : platform::CImageSource {
         explicit CSource(CTestImages& library) : owner(library) {}
         int Width() const override { return size.width; }
@@ -173,7 +180,9 @@ private:
         platform::BitmapHandle Render(int width, int height) override
         {
             ++owner.rendered;
-            return std::make_shared<platform::Bitmap>(platform::Bitmap{width, height, {}});
+            const auto pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+            return std::make_shared<platform::Bitmap>(
+                platform::Bitmap{width, height, std::vector<std::uint32_t>(pixels, 0xFF808080)});
         }
         std::optional<platform::PropertyItem> GetPropertyItem(std::uint16_t) override
         {
