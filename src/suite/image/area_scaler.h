@@ -11,6 +11,7 @@
 #include "platform/types.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace suite
@@ -27,6 +28,8 @@ public:
     int RowsTaken() const { return rowsTaken; }
     // The result, target.width * target.height * channels bytes; whole once every source row was given.
     const std::vector<std::uint8_t>& Pixels() const { return pixels; }
+    // The same without a second copy; the object is of no use after that.
+    std::vector<std::uint8_t> TakePixels() { return std::move(pixels); }
 
 private:
     void Accumulate(const std::uint8_t* row, std::uint32_t weight);

@@ -132,7 +132,7 @@ Pixels Decode(CJpegInput& input, platform::Extent stored, platform::Extent targe
     std::fill(row.begin(), row.end(), kGrey);
     while (scaler.RowsTaken() < scaled.height)
         scaler.AddRow(row.data());
-    return scaler.Pixels();
+    return scaler.TakePixels();
 }
 
 }  // namespace

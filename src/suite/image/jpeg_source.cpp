@@ -33,10 +33,12 @@ platform::BitmapHandle CJpegSource::Render(int width, int height)
     if (!IsBitmapSize({width, height}))
         return nullptr;
     const platform::Extent target = Turned({width, height}, orientation);
-    const std::optional<std::vector<std::uint8_t>> pixels = DecodeJpeg(file, stored, target);
+    std::optional<std::vector<std::uint8_t>> pixels = DecodeJpeg(file, stored, target);
     if (!pixels)
         return nullptr;
-    return std::make_shared<platform::Bitmap>(Upright(BitmapFromOpaque(target, *pixels), orientation));
+    platform::Bitmap bitmap = BitmapFromOpaque(target, *pixels);
+    pixels.reset();
+    return std::make_shared<platform::Bitmap>(Upright(std::move(bitmap), orientation));
 }
 
 std::optional<platform::PropertyItem> CJpegSource::GetPropertyItem(std::uint16_t tag)
