@@ -135,6 +135,7 @@ void CIEShellListCtrl::OnFilled()
         filler.ReadFacts();
     Q_EMIT StatusChanged();
     Q_EMIT WorkAppeared();
+    Q_EMIT Filled();
 }
 
 void CIEShellListCtrl::SayWhyEmpty()

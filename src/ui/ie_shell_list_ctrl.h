@@ -72,6 +72,8 @@ public:
     const CEmptyState* EmptyState() const { return emptyState; }
 
 Q_SIGNALS:
+    // The folder has been read anew, whether or not other items came of it.
+    void Filled();
     void WorkAppeared();
     // Items, selection or sizes have changed.
     void StatusChanged();

@@ -21,6 +21,7 @@ CViewerPages::CViewerPages(CIEShellListView* listView, QWidget* parent)
     listSettled.setInterval(0);
     connect(&listSettled, &QTimer::timeout, this, &CViewerPages::TakeNames);
     connect(list, &CIEShellListCtrl::PictureActivated, this, &CViewerPages::Open);
+    connect(list, &CIEShellListCtrl::Filled, &listSettled, qOverload<>(&QTimer::start));
     connect(list, &CIEShellListCtrl::StatusChanged, this, [this] {
         if (!IsViewing())
             return;
