@@ -17,6 +17,7 @@ void AddListCommands(CLI::App& parser, CContext& context);  // list, filelist
 void AddThumbsCommand(CLI::App& parser, CContext& context);
 void AddStoreCommand(CLI::App& parser, CContext& context);
 void AddArchiveCommand(CLI::App& parser, CContext& context);
+void AddWatchCommand(CLI::App& parser, CContext& context);
 
 // The option that chooses the media types of a list.
 void AddFilterOptions(CLI::App& command, int& filter);

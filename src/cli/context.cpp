@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
@@ -16,10 +17,14 @@ namespace
 {
 
 volatile std::sig_atomic_t caughtSignal = 0;
+std::atomic<platform::CEvent*> toWake = nullptr;
 
 void RememberSignal(int number)
 {
     caughtSignal = number;
+    if (platform::CEvent* event = toWake) {
+        event->Set();
+    }
 }
 
 }  // namespace
@@ -130,6 +135,14 @@ void CatchInterruptions()
     action.sa_flags = SA_RESETHAND | SA_RESTART;
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
+}
+
+void WakeAtInterruption(platform::CEvent* event)
+{
+    toWake = event;
+    if (event && Interruption() != 0) {
+        event->Set();
+    }
 }
 
 CProgressBar::CProgressBar(const CContext& context, std::size_t count)

@@ -7,6 +7,7 @@
 #include "app/data_folders.h"
 #include "app/kelvo_app.h"
 #include "browser/thumb_db_mgr.h"
+#include "platform/change_notifications.h"
 
 #include <nlohmann/json.hpp>
 
@@ -70,6 +71,8 @@ std::string AbsolutePath(const std::string& path);
 // The signal that asked the program to stop, or 0. Commands look between two items.
 int Interruption();
 void CatchInterruptions();
+// An event that is set when an interruption comes, for commands that wait; null for none.
+void WakeAtInterruption(platform::CEvent* event);
 
 // A bar on standard error for work that takes longer than a second, when that is a terminal.
 class CProgressBar

@@ -26,6 +26,7 @@ int Run(int argc, const char* const* argv, const char* version)
     AddThumbsCommand(parser, context);
     AddStoreCommand(parser, context);
     AddArchiveCommand(parser, context);
+    AddWatchCommand(parser, context);
     CatchInterruptions();
     try {
         parser.parse(argc, argv);

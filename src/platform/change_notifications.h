@@ -39,7 +39,7 @@ public:
     virtual ~CWaitable() = default;
 };
 
-// Ends one wait; set again before that, it still ends only one.
+// Ends one wait; set again before that, it still ends only one. May be set by a signal handler, too.
 class CEvent : public CWaitable
 {
 public:

@@ -48,6 +48,37 @@ class Kelvoctl(unittest.TestCase):
         failed = self.run_it("list", "missing", status=1)
         self.assertTrue(failed.stderr.startswith(b"kelvoctl: missing: "), failed.stderr)
 
+    def watch(self, *words):
+        """kelvoctl watch, once the folder is being followed."""
+        process = subprocess.Popen([KELVOCTL, *words], env=self.env | {"KELVO_TRACE": "1"}, cwd=self.work,
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        self.addCleanup(process.communicate)
+        self.addCleanup(process.kill)
+        while "for the first time" not in process.stderr.readline():
+            self.assertIsNone(process.poll())
+        return process
+
+    def test_watch_tells_of_changes_until_it_is_stopped(self):
+        (self.work / "photos").mkdir()
+        for words, line, stop, status in ((["watch", "photos"], "refresh\n", signal.SIGINT, 130),
+                                          (["--json", "watch", "photos"], '{"event": "refresh"}\n', signal.SIGTERM, 143)):
+            process = self.watch(*words)
+            (self.work / "photos" / words[0]).touch()
+            self.assertEqual(process.stdout.readline(), line)
+            process.send_signal(stop)
+            process.communicate(timeout=60)
+            self.assertEqual(process.returncode, status)
+        process = self.watch("watch", "photos")
+        (self.work / "photos").rename(self.work / "moved")
+        out, errors = process.communicate(timeout=60)
+        self.assertEqual((out, process.returncode), ("refresh\n", 1))
+        self.assertIn("kelvoctl: photos: is no longer there\n", errors)
+        self.assertEqual(self.run_it("watch", "moved", "--seconds", "0").stdout, b"")
+        (self.work / "file").touch()
+        for name in ("none", "file"):
+            self.assertTrue(self.run_it("watch", name, status=1).stderr.startswith(f"kelvoctl: {name}: ".encode()))
+        self.run_it("watch", "moved", "--seconds", "-1", status=2)
+
     def test_the_data_tree_is_prepared_with_its_samples(self):
         paths = self.json("paths")
         documents = f"{self.home}/Documents/Halden/Tessa1.0/"
