@@ -6,6 +6,8 @@
 
 #include <QStyledItemDelegate>
 
+#include <utility>
+
 namespace ui
 {
 
@@ -44,9 +46,15 @@ CFolderTree::CFolderTree(std::vector<app::Place> places, const QString& name, QW
     // The tree stands on the frame's ground, not on the list's.
     viewport()->setBackgroundRole(QPalette::Window);
     connect(this, &QTreeView::expanded, &folders, &CFolderTreeModel::Read);
+    // Heard before the view does, which would select the next best folder.
+    connect(&folders, &CFolderTreeModel::rowsAboutToBeRemoved, this, &CFolderTree::ForgetGone);
     setModel(&folders);
-    // What is read above a folder just selected must not push it out of sight.
-    connect(&folders, &CFolderTreeModel::ReadingEnded, this, [this] { scrollTo(currentIndex()); });
+    connect(&folders, &CFolderTreeModel::ReadingEnded, this, [this] {
+        // What is read above a folder just selected must not push it out of sight.
+        if (std::exchange(isRevealing, false))
+            scrollTo(currentIndex());
+        Q_EMIT ReadingEnded();
+    });
 }
 
 std::string CFolderTree::Folder() const
@@ -65,7 +73,25 @@ bool CFolderTree::SelectFolder(const std::string& path)
     setCurrentIndex(index);
     scrollTo(index);
     selecting = false;
+    isRevealing = true;
     return true;
+}
+
+void CFolderTree::RefreshLoaded()
+{
+    folders.ReadAgain();
+    if (!folders.IsReading())
+        Q_EMIT ReadingEnded();
+}
+
+void CFolderTree::ForgetGone(const QModelIndex& parent, int first, int last)
+{
+    for (QModelIndex index = currentIndex(); index.isValid(); index = index.parent()) {
+        if (index.parent() == parent && index.row() >= first && index.row() <= last) {
+            setCurrentIndex({});
+            return;
+        }
+    }
 }
 
 void CFolderTree::ExpandPlaces()

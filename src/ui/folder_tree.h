@@ -25,18 +25,24 @@ public:
     void ExpandPlaces();
     // Reads the sub-folders of the selected folder anew.
     void Refresh() { folders.Read(currentIndex()); }
+    // Reads all folders anew that have been read before; nothing is told of a selected folder that is gone.
+    void RefreshLoaded();
     bool IsReading() const { return folders.IsReading(); }
 
 Q_SIGNALS:
     // The user has selected another folder.
     void FolderChosen(const std::string& path);
+    void ReadingEnded();
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void ForgetGone(const QModelIndex& parent, int first, int last);
+
     CFolderTreeModel folders;
     bool selecting = false;
+    bool isRevealing = false;  // a folder was selected from outside, and what is above it is being read
 };
 
 }  // namespace ui

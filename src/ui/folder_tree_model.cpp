@@ -3,6 +3,7 @@
 #include "ui/folder_tree_model.h"
 
 #include "browser/file_names.h"
+#include "platform/change_notifications.h"
 #include "platform/services.h"
 #include "ui/display_text.h"
 #include "ui/icons.h"
@@ -64,6 +65,7 @@ struct CFolderTreeModel::Node {
     Node* parent = nullptr;
     std::vector<std::unique_ptr<Node>> children;  // sorted by name below a folder that has been read
     std::unique_ptr<platform::CFolderReader> reader;
+    std::unique_ptr<platform::CFollowedFolder> following;  // since it was first read
     std::vector<std::string> incoming;
 };
 
@@ -168,11 +170,13 @@ void CFolderTreeModel::Insert(Node* node, std::size_t row, std::vector<std::stri
     endInsertRows();
 }
 
-void CFolderTreeModel::Read(const QModelIndex& index)
+void CFolderTreeModel::ReadNode(Node* node)
 {
-    Node* node = NodeOf(index);
     if (!node->subfolders || node->reader)
         return;
+    // Anew each time: another folder may have taken the place.
+    if (platform::Os().changes)
+        node->following = platform::Os().changes->FollowFolder(node->path);
     node->reader = platform::Os().files->ReadFolder(node->path);
     node->incoming.clear();
     if (!node->reader) {
@@ -181,6 +185,15 @@ void CFolderTreeModel::Read(const QModelIndex& index)
     }
     reading.push_back(node);
     timer.start(0);
+}
+
+// Those below come first, so that a folder with all that is below it can go at once.
+void CFolderTreeModel::ReadAgainBelow(Node* node)
+{
+    for (std::size_t i = 0; i < node->children.size(); ++i)
+        ReadAgainBelow(node->children[i].get());
+    if (node->wasRead)
+        ReadNode(node);
 }
 
 void CFolderTreeModel::ReadPiece()
@@ -209,6 +222,7 @@ void CFolderTreeModel::TakeIn(Node* node)
     std::vector<std::string> names = std::move(node->incoming);
     node->incoming.clear();
     std::ranges::sort(names, browser::NameBefore);
+    const bool couldBeOpened = hasChildren(IndexOf(node));
     node->wasRead = true;
     RemoveGone(node, names);
     auto next = names.begin();
@@ -225,7 +239,7 @@ void CFolderTreeModel::TakeIn(Node* node)
         if (next != names.end() && row < node->children.size() && *next == node->children[row]->name)
             ++next;
     }
-    if (node->children.empty()) {
+    if (couldBeOpened && node->children.empty()) {
         // Views ask anew whether there is anything to open.
         const QList<QPersistentModelIndex> above = {QPersistentModelIndex(IndexOf(node))};
         Q_EMIT layoutAboutToBeChanged(above);

@@ -32,7 +32,9 @@ public:
     // there. Nothing is read for it.
     QModelIndex Reveal(const std::string& path);
     // Starts reading the folder's sub-folders (anew).
-    void Read(const QModelIndex& index);
+    void Read(const QModelIndex& index) { ReadNode(NodeOf(index)); }
+    // Starts reading all folders anew that have been read before.
+    void ReadAgain() { ReadAgainBelow(root.get()); }
     bool IsReading() const { return !reading.empty(); }
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -53,6 +55,8 @@ private:
     static std::unique_ptr<Node> MakeNode(app::Place place, Node* parent);
     Node* NearestPlace(Node* from, const std::string& path) const;
     Node* EnsureChild(Node* parent, const std::string& name);
+    void ReadNode(Node* node);
+    void ReadAgainBelow(Node* node);
     void ReadPiece();
     void TakeIn(Node* node);
     void Insert(Node* node, std::size_t row, std::vector<std::string> names);

@@ -8,8 +8,8 @@
 #include "ui/display_text.h"
 #include "ui/words.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QMimeData>
 #include <QScrollBar>
 
@@ -52,6 +52,8 @@ CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* pare
     connect(&filler, &CListFiller::PieceBegins, this, &CIEShellListCtrl::KeepState);
     connect(&filler, &CListFiller::Filled, this, &CIEShellListCtrl::OnFilled);
     connect(&filler, &CListFiller::ThumbnailsDue, this, &CIEShellListCtrl::WorkAppeared);
+    connect(&follower, &CListFollower::RefreshDue, this, &CIEShellListCtrl::FollowChange);
+    connect(&follower, &CListFollower::LostChanged, this, &CIEShellListCtrl::StatusChanged);
     connect(&filler, &CListFiller::FactsRead, this, [this] {
         allModel.FactsChanged();
         Q_EMIT StatusChanged();
@@ -91,6 +93,7 @@ void CIEShellListCtrl::OpenFolder(const std::string& path, const std::string& se
         keeper.Want(selectName);
         stateIsKept = true;
     }
+    follower.Begin(path);
     filler.Start(path);
     if (filler.IsReading())
         SayWhyEmpty();
@@ -107,6 +110,23 @@ void CIEShellListCtrl::Reread()
 {
     if (!list.Folder().empty())
         OpenFolder(list.Folder());
+}
+
+void CIEShellListCtrl::FollowChange()
+{
+    if (IsInUse())
+        follower.Postpone();
+    else
+        Reread();
+}
+
+// In the middle of something that new items would break off: a drag, a band, a name being typed, a menu.
+bool CIEShellListCtrl::IsInUse() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    const bool isEditing =
+        focus && focus != View() && focus != View()->viewport() && View()->isAncestorOf(focus);
+    return isEditing || QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget();
 }
 
 int CIEShellListCtrl::FirstVisible() const
@@ -127,6 +147,7 @@ void CIEShellListCtrl::KeepState()
 
 void CIEShellListCtrl::OnFilled()
 {
+    follower.End();
     if (!list.ItemsStayed() || Model().rowCount() != list.Count())
         Model().Reset(true);
     keeper.Restore(*View(), list);

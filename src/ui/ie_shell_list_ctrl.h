@@ -14,6 +14,7 @@
 #include "ui/media_list_model.h"
 #include "ui/selection_keeper.h"
 #include "ui/thumbnail_view.h"
+#include "ui/watch/list_follower.h"
 
 #include <QStackedLayout>
 #include <QWidget>
@@ -70,6 +71,7 @@ public:
     QAbstractItemView* View() const;
     CThumbnailView* Thumbnails() const { return thumbnails; }
     const CEmptyState* EmptyState() const { return emptyState; }
+    CListFollower& Follower() { return follower; }
 
 Q_SIGNALS:
     // The folder has been read anew, whether or not other items came of it.
@@ -90,6 +92,8 @@ private:
     int FirstVisible() const;
     void SelectRows(const std::vector<std::pair<int, int>>& ranges, int current);
     void Reread();
+    void FollowChange();
+    bool IsInUse() const;
     void KeepState();
     void OnFilled();
     void SayWhyEmpty();
@@ -107,6 +111,7 @@ private:
     CDetailsView* details;
     QStackedLayout* pages;
     CEmptyState* emptyState;
+    CListFollower follower;
 };
 
 }  // namespace ui

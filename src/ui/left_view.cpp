@@ -3,6 +3,7 @@
 #include "ui/left_view.h"
 
 #include "ui/empty_state.h"
+#include "ui/watch/ie_shell_tree_ctrl.h"
 #include "ui/words.h"
 
 #include <QVBoxLayout>
@@ -12,7 +13,8 @@ namespace ui
 
 CLeftView::CLeftView(app::CDataFolders& dataFolders, QWidget* parent)
     : QWidget(parent), tabBar(new TabWindow(state.tabs, this)), panels(new QStackedWidget(this)),
-      deviceTree(new CFolderTree(app::DevicePlaces(dataFolders), Text(StringId::placeFavouritesAndDevices)))
+      deviceTree(
+          new CIEShellTreeCtrl(app::DevicePlaces(dataFolders), Text(StringId::placeFavouritesAndDevices)))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -29,7 +31,7 @@ CLeftView::CLeftView(app::CDataFolders& dataFolders, QWidget* parent)
 CFolderTree* CLeftView::FolderTree()
 {
     if (!folderTree) {
-        folderTree = new CFolderTree(app::FolderPlaces(), Text(StringId::placeFolders));
+        folderTree = new CIEShellTreeCtrl(app::FolderPlaces(), Text(StringId::placeFolders));
         panels->addWidget(folderTree);
         connect(folderTree, &CFolderTree::FolderChosen, this, &CLeftView::SelectFolder);
     }

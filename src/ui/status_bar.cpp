@@ -52,7 +52,7 @@ int FolderCount(const browser::CMediaFileList& list)
 }  // namespace
 
 CStatusBar::CStatusBar(QWidget* parent)
-    : QStatusBar(parent), files(new QLabel(this)), selection(new QLabel(this)),
+    : QStatusBar(parent), files(new QLabel(this)), selection(new QLabel(this)), notFollowed(new QLabel(this)),
       thumbnailsLeft(new QLabel(this)), progress(new CProgressLine(this))
 {
     setSizeGripEnabled(false);
@@ -60,6 +60,9 @@ CStatusBar::CStatusBar(QWidget* parent)
     files->setContentsMargins(0, 0, 4 * kGrid, 0);
     addWidget(files);
     addWidget(selection, 1);
+    notFollowed->setContentsMargins(0, 0, 4 * kGrid, 0);
+    notFollowed->setToolTip(Text(StringId::watchNotFollowedTip));
+    addPermanentWidget(notFollowed);
     addPermanentWidget(thumbnailsLeft);
     addPermanentWidget(progress);
     progress->hide();
@@ -86,6 +89,8 @@ void CStatusBar::ShowFiles(CIEShellListCtrl& ctrl)
     if (chosen.files > 0 && chosen.complete)
         text += kDot + SizeText(chosen.bytes);
     selection->setText(text);
+    notFollowed->setText(ctrl.Follower().IsLost() ? Text(StringId::watchNotFollowed) : QString());
+    notFollowed->setVisible(!notFollowed->text().isEmpty());
     ShowThumbnails(ctrl);
 }
 

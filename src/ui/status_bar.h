@@ -22,11 +22,14 @@ public:
     void ShowThumbnails(const CIEShellListCtrl& ctrl);
     QString FilesText() const { return files->text(); }
     QString SelectionText() const { return selection->text(); }
+    // Empty while changes in the folder on show are followed.
+    QString NotFollowedText() const { return notFollowed->text(); }
     QString ThumbnailsText() const { return thumbnailsLeft->text(); }
 
 private:
     QLabel* files;
     QLabel* selection;
+    QLabel* notFollowed;
     QLabel* thumbnailsLeft;
     QProgressBar* progress;
     int most = 0;
