@@ -44,6 +44,10 @@ enum class CommandId {
     sortBySize,
     sortByType,
     sortByModified,
+    sortByDateTaken,
+    sortAscending,
+    sortDescending,
+    dateTakenColumn,
     toolBar,
     taskPanel,
     refresh,
@@ -79,6 +83,7 @@ enum class Mark {
     none,
     toggle,  // on or off by itself
     choice,  // one of the commands of its menu
+    way,     // one of the two ways of sorting
     view,    // one of the list's views
 };
 

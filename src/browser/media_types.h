@@ -26,6 +26,8 @@ inline constexpr std::string_view kHandsetProgramFilter = "*.jad;";
 inline constexpr std::string_view kHandsetImageFilter = "*.sss;";
 inline constexpr std::string_view kSearchResultFilter = ";*.asr";
 inline constexpr std::string_view kColumnHeadings = "Name|Size|Type|Modified";
+// Of one more column, which is shown on demand.
+inline constexpr std::string_view kDateTakenHeading = "Date Taken";
 
 inline constexpr int kFilterAllFiles = 0;
 inline constexpr int kFilterPhoto = 1;

@@ -10,6 +10,18 @@
 namespace ui
 {
 
+namespace
+{
+
+QDateTime Moment(platform::FileTime time)
+{
+    // Milliseconds from 1601-01-01, where file times begin, to 1970-01-01.
+    constexpr std::int64_t kEpoch = 11644473600000;
+    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time / 10000) - kEpoch);
+}
+
+}  // namespace
+
 QString Shown(std::string_view bytes)
 {
     QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
@@ -32,12 +44,12 @@ QString SizeText(std::uint64_t bytes)
 
 QString TimeText(platform::FileTime time)
 {
-    if (time == 0)
-        return {};
-    // Milliseconds from 1601-01-01, where file times begin, to 1970-01-01.
-    constexpr std::int64_t kEpoch = 11644473600000;
-    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time / 10000) - kEpoch);
-    return QLocale().toString(moment, QLocale::ShortFormat);
+    return time == 0 ? QString() : QLocale().toString(Moment(time), QLocale::ShortFormat);
+}
+
+QString ClockText(platform::FileTime time)
+{
+    return time == 0 ? QString() : QLocale().toString(Moment(time).toUTC(), QLocale::ShortFormat);
 }
 
 }  // namespace ui

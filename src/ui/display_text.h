@@ -20,5 +20,7 @@ QString Shown(std::string_view bytes);
 QString SizeText(std::uint64_t bytes);
 // Local date and time; empty for 0.
 QString TimeText(platform::FileTime time);
+// The date and time that a clock in UTC shows, for moments without a zone; empty for 0.
+QString ClockText(platform::FileTime time);
 
 }  // namespace ui

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
 
@@ -34,10 +35,12 @@ QByteArray FileUri(const std::string& path)
 
 }  // namespace
 
-CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* parent)
+CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, const std::string& settingsFile,
+                                   QWidget* parent)
     : QWidget(parent), storeManager(storeFolder), list(&storeManager), nameModel(list, Columns::name),
       allModel(list, Columns::all), filler(list), thumbnails(new CThumbnailView(list, this)),
-      details(new CDetailsView(this)), pages(new QStackedLayout(this)), emptyState(new CEmptyState(this))
+      details(new CDetailsView(this)), pages(new QStackedLayout(this)), emptyState(new CEmptyState(this)),
+      layout(*this, settingsFile)
 {
     storeManager.Load();
     storeManager.SetPatience(kPatience);
@@ -54,14 +57,17 @@ CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, QWidget* pare
     connect(&filler, &CListFiller::ThumbnailsDue, this, &CIEShellListCtrl::WorkAppeared);
     connect(&follower, &CListFollower::RefreshDue, this, &CIEShellListCtrl::FollowChange);
     connect(&follower, &CListFollower::LostChanged, this, &CIEShellListCtrl::StatusChanged);
-    connect(&filler, &CListFiller::FactsRead, this, [this] {
-        allModel.FactsChanged();
-        Q_EMIT StatusChanged();
-    });
+    connect(&filler, &CListFiller::FactsRead, this, &CIEShellListCtrl::OnFactsRead);
+    connect(thumbnails, &CThumbnailView::SideWanted, this, &CIEShellListCtrl::SetThumbnailSide);
+    connect(details, &CDetailsView::OrderChosen, this, &CIEShellListCtrl::SetOrder);
+    connect(details, &CDetailsView::ColumnsChanged, this, &CIEShellListCtrl::LayoutChanged);
+    connect(details, &CDetailsView::HeaderMenuWanted, this, &CIEShellListCtrl::ShowHeaderMenu);
+    layout.Load();
 }
 
 CIEShellListCtrl::~CIEShellListCtrl()
 {
+    layout.Save();
     storeManager.SetPatience(kPatienceAtEnd);
     storeManager.Save(true);
 }
@@ -152,11 +158,83 @@ void CIEShellListCtrl::OnFilled()
         Model().Reset(true);
     keeper.Restore(*View(), list);
     SayWhyEmpty();
-    if (!thumbnails->Visible() || style == ViewStyle::details)
+    if (!thumbnails->Visible() || style == ViewStyle::details || list.IsUnsorted())
         filler.ReadFacts();
     Q_EMIT StatusChanged();
     Q_EMIT WorkAppeared();
     Q_EMIT Filled();
+}
+
+void CIEShellListCtrl::OnFactsRead()
+{
+    allModel.FactsChanged();
+    if (list.SortIsDue())
+        Rearrange([this] { list.Sort(); });
+    Q_EMIT StatusChanged();
+}
+
+// The current item stays where it is seen; where it is not, the view stays where it is scrolled to.
+void CIEShellListCtrl::Rearrange(const std::function<void()>& sort)
+{
+    QAbstractItemView& view = *View();
+    const int scrolled = view.verticalScrollBar()->value();
+    const QModelIndex current = view.currentIndex();
+    const bool currentShows =
+        current.isValid() && view.visualRect(current).intersects(view.viewport()->rect());
+    CSelectionKeeper kept;
+    kept.Capture(view, list, currentShows ? current.row() : -1);
+    sort();
+    if (Model().rowCount() == 0)
+        return;
+    Model().Reset(true);
+    view.doItemsLayout();
+    view.verticalScrollBar()->setValue(scrolled);
+    kept.Restore(view, list);
+    Q_EMIT WorkAppeared();
+}
+
+void CIEShellListCtrl::SetOrder(browser::SortOrder order)
+{
+    Rearrange([this, order] { list.SetOrder(order); });
+    details->ShowOrder(order);
+    if (list.IsUnsorted())
+        filler.ReadFacts();
+    Q_EMIT LayoutChanged();
+    Q_EMIT StatusChanged();
+}
+
+void CIEShellListCtrl::ShowDateTaken(bool on)
+{
+    details->SetDateTakenShown(on);
+    list.SetDatesWanted(on);
+    if (on && style == ViewStyle::details)
+        filler.ReadFacts();
+    Q_EMIT LayoutChanged();
+}
+
+void CIEShellListCtrl::ShowHeaderMenu(const QPoint& place)
+{
+    QMenu menu(this);
+    QAction* date = menu.addAction(Text(StringId::listDateTaken));
+    date->setCheckable(true);
+    date->setChecked(details->IsDateTakenShown());
+    QAction* standard = menu.addAction(Text(StringId::listStandardColumns));
+    const QAction* chosen = menu.exec(place);
+    if (chosen == date) {
+        ShowDateTaken(date->isChecked());
+    } else if (chosen == standard) {
+        details->ArrangeColumns({0, 1, 2, 3, 4}, {});
+        ShowDateTaken(false);
+    }
+}
+
+void CIEShellListCtrl::SetThumbnailSide(int pixels)
+{
+    const int side = browser::NearestThumbSize(pixels);
+    if (side == thumbnails->ThumbnailSide())
+        return;
+    thumbnails->SetThumbnailSide(side);
+    Q_EMIT LayoutChanged();
 }
 
 void CIEShellListCtrl::SayWhyEmpty()
@@ -203,6 +281,7 @@ void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
     emptyState->raise();
     if (style == ViewStyle::details)
         filler.ReadFacts();
+    Q_EMIT LayoutChanged();
     Q_EMIT StatusChanged();
     Q_EMIT WorkAppeared();
 }
@@ -218,8 +297,10 @@ void CIEShellListCtrl::SelectRows(const std::vector<std::pair<int, int>>& ranges
 
 void CIEShellListCtrl::SetFilter(int mode, int includeFolders)
 {
-    if (list.SetFilter(mode, includeFolders))
-        Reread();
+    if (!list.SetFilter(mode, includeFolders))
+        return;
+    Reread();
+    Q_EMIT LayoutChanged();
 }
 
 void CIEShellListCtrl::SelectAll()

@@ -10,6 +10,7 @@
 #include "browser/thumb_db_mgr.h"
 #include "ui/details_view.h"
 #include "ui/empty_state.h"
+#include "ui/list/list_layout.h"
 #include "ui/list_filler.h"
 #include "ui/media_list_model.h"
 #include "ui/selection_keeper.h"
@@ -18,6 +19,8 @@
 
 #include <QStackedLayout>
 #include <QWidget>
+
+#include <functional>
 
 namespace ui
 {
@@ -35,8 +38,10 @@ class CIEShellListCtrl : public QWidget
     Q_OBJECT
 
 public:
-    // `storeFolder`: where thumbnails are kept; empty for nowhere.
-    explicit CIEShellListCtrl(const std::string& storeFolder, QWidget* parent = nullptr);
+    // `storeFolder`: where thumbnails are kept; `settingsFile`: where the list's layout is; empty for
+    // nowhere.
+    CIEShellListCtrl(const std::string& storeFolder, const std::string& settingsFile,
+                     QWidget* parent = nullptr);
     ~CIEShellListCtrl() override;
 
     // Shows a folder; `selectName` becomes selected when it is there.
@@ -46,7 +51,13 @@ public:
     void Refresh();
     void SetViewStyle(ViewStyle wanted);
     ViewStyle Style() const { return style; }
-    void SetThumbnailSide(int pixels) { thumbnails->SetThumbnailSide(pixels); }
+    // The nearest size that there is.
+    void SetThumbnailSide(int pixels);
+    // Sorts, at once or as soon as the files have told what is sorted by. The selection stays.
+    void SetOrder(browser::SortOrder order);
+    void ShowDateTaken(bool on);
+    // As CMediaListModel::SetHeadings.
+    void SetHeadings(const QStringList& headings) { allModel.SetHeadings(headings); }
     // As CMediaFileList::SetFilter.
     void SetFilter(int mode, int includeFolders);
 
@@ -70,6 +81,7 @@ public:
     const browser::CMediaFileList& List() const { return list; }
     QAbstractItemView* View() const;
     CThumbnailView* Thumbnails() const { return thumbnails; }
+    CDetailsView* Details() const { return details; }
     const CEmptyState* EmptyState() const { return emptyState; }
     CListFollower& Follower() { return follower; }
 
@@ -80,6 +92,8 @@ Q_SIGNALS:
     // Items, selection or sizes have changed.
     void StatusChanged();
     void ThumbnailMade();
+    // View, sizes, columns, order or filter have changed.
+    void LayoutChanged();
     void FolderActivated(const std::string& path);
     // A photo, handset image or clip is to be shown large.
     void PictureActivated(int row);
@@ -94,6 +108,9 @@ private:
     void Reread();
     void FollowChange();
     bool IsInUse() const;
+    void Rearrange(const std::function<void()>& sort);
+    void OnFactsRead();
+    void ShowHeaderMenu(const QPoint& place);
     void KeepState();
     void OnFilled();
     void SayWhyEmpty();
@@ -112,6 +129,7 @@ private:
     QStackedLayout* pages;
     CEmptyState* emptyState;
     CListFollower follower;
+    CListLayout layout;
 };
 
 }  // namespace ui

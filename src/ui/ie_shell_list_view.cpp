@@ -2,24 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ie_shell_list_view.h"
 
+#include "browser/list_settings.h"
 #include "ui/icons.h"
 #include "ui/main_menu.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
 #include <QHBoxLayout>
+#include <QShortcut>
+#include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
 
-#include <array>
+#include <utility>
 
 namespace ui
 {
 
 namespace
 {
-
-constexpr std::array kSides = {80, 120, 180};
 
 QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent)
 {
@@ -38,9 +39,11 @@ QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent
 
 }  // namespace
 
-CIEShellListView::CIEShellListView(const std::string& storeFolder, const CMainMenu& menu, QWidget* parent)
+CIEShellListView::CIEShellListView(const std::string& storeFolder, const std::string& settingsFile,
+                                   const CMainMenu& menu, QWidget* parent)
     : QWidget(parent), up(new QAction(Text(StringId::placeUp), this)), path(new CPathLabel(this)),
-      sizeControl(new QSlider(Qt::Horizontal, this)), ctrl(new CIEShellListCtrl(storeFolder, this))
+      sizeControl(new QSlider(Qt::Horizontal, this)),
+      ctrl(new CIEShellListCtrl(storeFolder, settingsFile, this))
 {
     up->setShortcuts({QKeySequence(QStringLiteral("Alt+Up")), QKeySequence(Qt::Key_Backspace)});
     up->setToolTip(Text(StringId::placeUpTip));
@@ -56,16 +59,22 @@ CIEShellListView::CIEShellListView(const std::string& storeFolder, const CMainMe
     column->addWidget(line);
     column->addWidget(ctrl, 1);
     setFocusProxy(ctrl);
-    connect(sizeControl, &QSlider::valueChanged, this, [this](int step) {
-        ctrl->SetThumbnailSide(kSides[static_cast<std::size_t>(step)]);
-        Q_EMIT ThumbnailStepChosen(step);
-    });
+    connect(sizeControl, &QSlider::valueChanged, ctrl,
+            [this](int step) { ctrl->SetThumbnailSide(step * browser::kThumbStep); });
+    connect(ctrl, &CIEShellListCtrl::LayoutChanged, this, &CIEShellListView::ShowSize);
+    ShowSize();
+    for (const auto& [keys, steps] :
+         {std::pair(QKeySequence::ZoomIn, 1), std::pair(QKeySequence::ZoomOut, -1)}) {
+        connect(new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+                &QShortcut::activated, sizeControl,
+                [this, steps = steps] { sizeControl->setValue(sizeControl->value() + steps); });
+    }
 }
 
 QWidget* CIEShellListView::MakeBar(const CMainMenu& menu)
 {
-    sizeControl->setRange(0, static_cast<int>(kSides.size()) - 1);
-    sizeControl->setValue(1);
+    sizeControl->setRange(browser::kThumbSmallest / browser::kThumbStep,
+                          browser::kThumbLarge / browser::kThumbStep);
     sizeControl->setPageStep(1);
     sizeControl->setFixedWidth(20 * kGrid);
     sizeControl->setFocusPolicy(Qt::TabFocus);
@@ -92,15 +101,11 @@ void CIEShellListView::OpenFolder(const std::string& folder, const std::string& 
     ctrl->OpenFolder(folder, selectName);
 }
 
-void CIEShellListView::SetViewStyle(ViewStyle style)
+void CIEShellListView::ShowSize()
 {
-    ctrl->SetViewStyle(style);
-    sizeControl->setEnabled(style == ViewStyle::thumbnails);
-}
-
-void CIEShellListView::SetThumbnailStep(int step)
-{
-    sizeControl->setValue(step);
+    const QSignalBlocker quiet(sizeControl);
+    sizeControl->setValue(ctrl->Thumbnails()->ThumbnailSide() / browser::kThumbStep);
+    sizeControl->setEnabled(ctrl->Style() == ViewStyle::thumbnails);
 }
 
 }  // namespace ui

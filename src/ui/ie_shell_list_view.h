@@ -21,20 +21,17 @@ class CIEShellListView : public QWidget
     Q_OBJECT
 
 public:
-    CIEShellListView(const std::string& storeFolder, const CMainMenu& menu, QWidget* parent = nullptr);
+    // The first two are the list's.
+    CIEShellListView(const std::string& storeFolder, const std::string& settingsFile, const CMainMenu& menu,
+                     QWidget* parent = nullptr);
 
     CIEShellListCtrl* Ctrl() const { return ctrl; }
     void OpenFolder(const std::string& path, const std::string& selectName = {});
-    void SetViewStyle(ViewStyle style);
-    // Large, medium and small are 2, 1 and 0.
-    void SetThumbnailStep(int step);
     QAction* UpAction() const { return up; }
-
-Q_SIGNALS:
-    void ThumbnailStepChosen(int step);
 
 private:
     QWidget* MakeBar(const CMainMenu& menu);
+    void ShowSize();
 
     QAction* up;
     CPathLabel* path;

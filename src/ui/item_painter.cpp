@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/item_painter.h"
 
+#include "browser/file_names.h"
 #include "browser/thumbnail_maker.h"
 #include "ui/display_text.h"
 #include "ui/icons.h"
@@ -84,6 +85,8 @@ QString CItemPainter::IconName(const browser::MediaItem& item, IconUse use)
         return use == IconUse::kind ? QStringLiteral("photo") : QStringLiteral("picture-placeholder");
     if (item.types & browser::kTypeSound)
         return QStringLiteral("sound");
+    if (browser::LowerCase(browser::Extension(item.name)) == "asr")
+        return QStringLiteral("search");
     return QStringLiteral("file");
 }
 

@@ -24,7 +24,7 @@ public:
     // Starts reading and does the first piece at once: a small folder is there when this returns.
     void Start(const std::string& folder);
     bool IsReading() const { return list.State() == browser::FillState::reading; }
-    // Reads sizes and times until all are known; a new fill ends it.
+    // Reads sizes and times, and dates where wanted, until all are known; a new fill ends it.
     void ReadFacts();
 
 Q_SIGNALS:

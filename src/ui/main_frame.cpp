@@ -7,6 +7,7 @@
 #include "platform/shell.h"
 #include "ui/controls/skin.h"
 #include "ui/display_text.h"
+#include "ui/list/list_commands.h"
 #include "ui/printer_defaults.h"
 #include "ui/theme.h"
 
@@ -15,7 +16,6 @@
 #include <QMessageBox>
 #include <QSplitter>
 
-#include <array>
 #include <utility>
 
 namespace ui
@@ -35,9 +35,11 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       state({ReadPrinterDefaults, [this](bool on) { setEnabled(on); },
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
-      right(new CIEShellListView(owner.DbFolder(), *menu)), pages(new CViewerPages(right)),
-      status(new CStatusBar(this)), fileCommands(router, *this), editCommands(router, *this),
-      viewCommands(router, *this), toolCommands(router, *this), helpCommands(router, *this)
+      right(new CIEShellListView(owner.DbFolder(), browser::JoinPath(owner.ProgramFolder(), "Kelvo.ini"),
+                                 *menu)),
+      pages(new CViewerPages(right)), status(new CStatusBar(this)), fileCommands(router, *this),
+      editCommands(router, *this), viewCommands(router, *this), toolCommands(router, *this),
+      helpCommands(router, *this)
 {
     UseSkin(owner.SkinFolder());
     LoadSettings();
@@ -46,9 +48,6 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
     BuildPanes();
     ConnectList();
     connect(menu, &CMainMenu::Triggered, this, [this](app::CommandId id) { router.Run(id); });
-    for (const auto id : {app::CommandId::thumbnails, app::CommandId::sizeMedium, app::CommandId::filterMedia,
-                          app::CommandId::sortByName})
-        menu->Check(id);
     thumbnailTimer.setTimerType(Qt::PreciseTimer);
     thumbnailTimer.setInterval(kThumbnailPeriod);
     connect(&thumbnailTimer, &QTimer::timeout, this, &CMainFrame::Tick);
@@ -94,11 +93,8 @@ void CMainFrame::ConnectList()
     });
     connect(list, &CIEShellListCtrl::StatusChanged, this, [this] { status->ShowFiles(*List()); });
     connect(list, &CIEShellListCtrl::ThumbnailMade, this, [this] { status->ShowThumbnails(*List()); });
-    connect(right, &CIEShellListView::ThumbnailStepChosen, this, [this](int step) {
-        constexpr std::array sizes = {app::CommandId::sizeSmall, app::CommandId::sizeMedium,
-                                      app::CommandId::sizeLarge};
-        menu->Check(sizes[static_cast<std::size_t>(step)]);
-    });
+    connect(list, &CIEShellListCtrl::LayoutChanged, this, [this] { MarkListCommands(*menu, *List()); });
+    MarkListCommands(*menu, *list);
     connect(pages, &CViewerPages::CommandWanted, this,
             [this](app::CommandId id) { menu->Action(id)->trigger(); });
     connect(right->UpAction(), &QAction::triggered, this, &CMainFrame::GoUp);

@@ -77,9 +77,9 @@ QAction* CMainMenu::MakeAction(QMainWindow& window, const app::Command& command)
 
 QActionGroup* CMainMenu::GroupOf(const app::Command& command)
 {
-    if (command.mark != app::Mark::choice && command.mark != app::Mark::view)
+    if (command.mark == app::Mark::none || command.mark == app::Mark::toggle)
         return nullptr;
-    QActionGroup*& group = choices[command.menu];
+    QActionGroup*& group = choices[{command.menu, command.mark}];
     if (!group)
         group = new QActionGroup(this);
     return group;

@@ -35,7 +35,7 @@ private:
     QActionGroup* GroupOf(const app::Command& command);
 
     std::map<app::MenuId, QMenu*> menus;
-    std::map<app::MenuId, QActionGroup*> choices;
+    std::map<std::pair<app::MenuId, app::Mark>, QActionGroup*> choices;
     std::map<app::CommandId, QAction*> actions;
 };
 

@@ -25,12 +25,20 @@ QString TypeText(const browser::MediaItem& item)
         return Text(StringId::kindVideo, extension);
     if (item.types & browser::kTypeSound)
         return Text(StringId::kindSound, extension);
+    if (extension == QStringLiteral("ASR"))
+        return Text(StringId::kindSearchResult);
     return Text(StringId::kindFile, extension);
 }
 
 CMediaListModel::CMediaListModel(browser::CMediaFileList& mediaList, Columns shown, QObject* parent)
     : QAbstractTableModel(parent), list(mediaList), columns(shown)
 {
+}
+
+void CMediaListModel::SetHeadings(const QStringList& shown)
+{
+    headings = shown;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 void CMediaListModel::Reset(bool withItems)
@@ -49,14 +57,14 @@ void CMediaListModel::ItemChanged(int row)
 void CMediaListModel::FactsChanged()
 {
     if (rows > 0 && columns == Columns::all)
-        Q_EMIT dataChanged(index(0, sizeColumn), index(rows - 1, modifiedColumn), {Qt::DisplayRole});
+        Q_EMIT dataChanged(index(0, sizeColumn), index(rows - 1, dateTakenColumn), {Qt::DisplayRole});
 }
 
 int CMediaListModel::columnCount(const QModelIndex& parent) const
 {
     if (parent.isValid())
         return 0;
-    return columns == Columns::name ? 1 : modifiedColumn + 1;
+    return columns == Columns::name ? 1 : dateTakenColumn + 1;
 }
 
 QVariant CMediaListModel::data(const QModelIndex& index, int role) const
@@ -94,6 +102,9 @@ QString CMediaListModel::CellText(int row, int column) const
         return item.isFolder || !list.ReadFacts(row) ? QString() : SizeText(item.fileSize);
     case modifiedColumn:
         return list.ReadFacts(row) ? TimeText(item.lastWriteTime) : QString();
+    case dateTakenColumn:
+        // Not read here: it opens the file.
+        return ClockText(item.dateTaken);
     default:
         return {};
     }
@@ -104,7 +115,7 @@ QString CMediaListModel::Tip(int row) const
     // Plain text: a name must not be taken for markup.
     QString tip = Shown(list.Item(row).name).toHtmlEscaped() + QStringLiteral("<br>") +
                   TypeText(list.Item(row)).toHtmlEscaped();
-    for (const int column : {int(sizeColumn), int(modifiedColumn)}) {
+    for (const int column : {int(sizeColumn), int(modifiedColumn), int(dateTakenColumn)}) {
         if (const QString text = CellText(row, column); !text.isEmpty())
             tip += QStringLiteral("<br>") + text.toHtmlEscaped();
     }
@@ -119,8 +130,11 @@ QVariant CMediaListModel::headerData(int section, Qt::Orientation orientation, i
         return int((section == sizeColumn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
-    static const QStringList headings = Text(StringId::listColumnHeadings).split(QLatin1Char('|'));
-    return headings.value(section);
+    if (!headings.value(section).isEmpty())
+        return headings.at(section);
+    return section == dateTakenColumn
+               ? Text(StringId::listDateTaken)
+               : Text(StringId::listColumnHeadings).section(QLatin1Char('|'), section, section);
 }
 
 Qt::ItemFlags CMediaListModel::flags(const QModelIndex& index) const

@@ -20,10 +20,12 @@ class CMediaListModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { nameColumn, sizeColumn, typeColumn, modifiedColumn };
+    enum Column { nameColumn, sizeColumn, typeColumn, modifiedColumn, dateTakenColumn };
 
     CMediaListModel(browser::CMediaFileList& mediaList, Columns shown, QObject* parent = nullptr);
 
+    // Headings other than the built-in ones; an empty one leaves the column its own.
+    void SetHeadings(const QStringList& shown);
     // Takes the list's items anew, or none of them.
     void Reset(bool withItems);
     // The item's thumbnail or facts have changed.
@@ -43,6 +45,7 @@ private:
 
     browser::CMediaFileList& list;
     Columns columns;
+    QStringList headings;
     int rows = 0;
 };
 

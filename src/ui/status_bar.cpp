@@ -78,7 +78,10 @@ void CStatusBar::ShowFiles(CIEShellListCtrl& ctrl)
         QString text = Counted(StringId::statusFiles, list.Count() - folders);
         if (folders > 0)
             text = Text(StringId::statusFoldersAndFiles, Counted(StringId::statusFolders, folders), text);
-        if (list.Count() > 0 && list.AllFactsKnown())
+        if (list.IsUnsorted())
+            text += kDot + Text(StringId::listSorting, QLocale().toString(list.ReadForOrder()),
+                                QLocale().toString(list.Count()));
+        else if (list.Count() > 0 && list.AllFactsKnown())
             text += kDot + SizeText(list.KnownBytes());
         files->setText(text);
     }

@@ -133,6 +133,15 @@ void FillRounded(QPainter& painter, const QRectF& box, const QColor& colour, qre
     painter.restore();
 }
 
+void DrawBand(QPainter& painter, const QRect& band)
+{
+    QColor colour = CTheme::Colours().accent;
+    painter.setPen(colour);
+    colour.setAlpha(40);
+    painter.setBrush(colour);
+    painter.drawRect(band.adjusted(0, 0, -1, -1));
+}
+
 CStyle::CStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 void CStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -30,4 +30,7 @@ public:
 // A rounded, filled box without an outline.
 void FillRounded(QPainter& painter, const QRectF& box, const QColor& colour, qreal radius);
 
+// The band that is drawn with the mouse around what is to be selected.
+void DrawBand(QPainter& painter, const QRect& band);
+
 }  // namespace ui

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/thumbnail_view.h"
 
+#include "browser/list_settings.h"
+#include "ui/style.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
@@ -280,17 +282,22 @@ void CThumbnailView::paintEvent(QPaintEvent* event)
             itemPainter.Draw(painter, list.Item(row), look);
     }
     if (state() == DragSelectingState)
-        DrawBand(painter);
+        DrawBand(painter, QRect(bandStart - QPoint(0, verticalOffset()), bandEnd).normalized());
 }
 
-void CThumbnailView::DrawBand(QPainter& painter) const
+void CThumbnailView::wheelEvent(QWheelEvent* event)
 {
-    const QRect band = QRect(bandStart - QPoint(0, verticalOffset()), bandEnd).normalized();
-    QColor colour = CTheme::Colours().accent;
-    painter.setPen(colour);
-    colour.setAlpha(40);
-    painter.setBrush(colour);
-    painter.drawRect(band.adjusted(0, 0, -1, -1));
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QListView::wheelEvent(event);
+        return;
+    }
+    // Touch pads tell of a notch in small parts.
+    wheelTurn += event->angleDelta().y();
+    const int notches = wheelTurn / QWheelEvent::DefaultDeltasPerStep;
+    wheelTurn -= notches * QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0)
+        Q_EMIT SideWanted(side + notches * browser::kThumbStep);
+    event->accept();
 }
 
 void CThumbnailView::mousePressEvent(QMouseEvent* event)
@@ -305,6 +312,8 @@ void CThumbnailView::mouseMoveEvent(QMouseEvent* event)
     QListView::mouseMoveEvent(event);
     if (state() == DragSelectingState) {
         bandEnd = event->position().toPoint();
+        if (!viewport()->rect().contains(bandEnd))
+            startAutoScroll();
         viewport()->update();
     }
     Hover(event->buttons() ? -1 : indexAt(event->position().toPoint()).row());

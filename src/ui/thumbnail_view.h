@@ -37,6 +37,8 @@ public:
 Q_SIGNALS:
     // Other items are to be seen than before.
     void VisibleChanged();
+    // The wheel was turned for another size.
+    void SideWanted(int pixels);
 
 protected:
     int horizontalOffset() const override { return 0; }
@@ -51,6 +53,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -62,7 +65,6 @@ private:
     void Regrid();
     QItemSelection BandSelection(const QRect& band) const;
     QItemSelection RangeSelection(QPoint from, QPoint to) const;
-    void DrawBand(QPainter& painter) const;
     void Hover(int row);
     void UpdateCell(int row);
 
@@ -71,8 +73,9 @@ private:
     CGrid grid;
     int side = 120;
     int hovered = -1;
-    QPoint bandStart;  // in content coordinates
-    QPoint bandEnd;    // in viewport coordinates
+    int wheelTurn = 0;  // eighths of a degree that made no notch yet
+    QPoint bandStart;   // in content coordinates
+    QPoint bandEnd;     // in viewport coordinates
 };
 
 }  // namespace ui
