@@ -35,9 +35,8 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       state({ReadPrinterDefaults, [this](bool on) { setEnabled(on); },
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
-      right(new CIEShellListView(owner.DbFolder(), browser::JoinPath(owner.ProgramFolder(), "Kelvo.ini"),
-                                 *menu)),
-      pages(new CViewerPages(right)), status(new CStatusBar(this)), fileCommands(router, *this),
+      right(new CIEShellListView(owner.DbFolder(), SettingsFile(), *menu)), pages(new CViewerPages(right)),
+      status(new CStatusBar(this)), panes(new QSplitter(this)), fileCommands(router, *this),
       editCommands(router, *this), viewCommands(router, *this), toolCommands(router, *this),
       helpCommands(router, *this)
 {
@@ -60,23 +59,27 @@ CMainFrame::~CMainFrame()
     app::CurrentSettings() = nullptr;
 }
 
+std::string CMainFrame::SettingsFile() const
+{
+    return browser::JoinPath(owner.ProgramFolder(), "Kelvo.ini");
+}
+
 void CMainFrame::LoadSettings()
 {
-    settings.Load(browser::JoinPath(owner.ProgramFolder(), "Kelvo.ini"));
+    settings.Load(SettingsFile());
     app::CurrentSettings() = &settings;
 }
 
 void CMainFrame::BuildPanes()
 {
-    auto* splitter = new QSplitter(this);
-    splitter->addWidget(left);
-    splitter->addWidget(pages);
-    splitter->setStretchFactor(1, 1);
-    splitter->setChildrenCollapsible(false);
-    splitter->setSizes({kLeftWidth, kRightWidth});
+    panes->addWidget(left);
+    panes->addWidget(pages);
+    panes->setStretchFactor(1, 1);
+    panes->setChildrenCollapsible(false);
+    panes->setSizes({kLeftWidth, kRightWidth});
     left->setMinimumWidth(40 * kGrid);
     pages->setMinimumWidth(60 * kGrid);
-    setCentralWidget(splitter);
+    setCentralWidget(panes);
     setStatusBar(status);
     right->setFocus();
 }

@@ -22,6 +22,8 @@
 #include <QMainWindow>
 #include <QTimer>
 
+class QSplitter;
+
 namespace ui
 {
 
@@ -48,6 +50,8 @@ public:
     CIEShellListCtrl* List() const { return right->Ctrl(); }
     CViewerPages* Pages() const { return pages; }
     CStatusBar* Status() const { return status; }
+    QSplitter* Panes() const { return panes; }
+    std::string SettingsFile() const;
     const CMainMenu* Menu() const { return menu; }
     const CCommandRouter& Router() const { return router; }
     app::CMainFrameState& State() { return state; }
@@ -74,6 +78,7 @@ private:
     CIEShellListView* right;
     CViewerPages* pages;  // holds the right pane
     CStatusBar* status;
+    QSplitter* panes;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
     CCommandRouter router;

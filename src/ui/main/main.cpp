@@ -16,6 +16,7 @@
 #include "ui/shot.h"
 #include "ui/solo_messages.h"
 #include "ui/theme.h"
+#include "ui/window_keeper.h"
 #include "ui/words.h"
 
 #include <QApplication>
@@ -26,9 +27,6 @@
 
 namespace
 {
-
-// The window when it is not maximised.
-constexpr QSize kNormalSize(1120, 720);
 
 // What the window needs around it, in the order in which it is made.
 struct Program {
@@ -71,12 +69,14 @@ int RunWindow(Program& program)
     ui::CTheme theme;
     ui::CMainFrame frame(program.application, program.dataFolders);
     frame.setWindowIcon(ui::ThemedIcon(QStringLiteral("kelvo")));
-    frame.resize(kNormalSize);
-    frame.showMaximized();
+    ui::CWindowKeeper keeper(frame, *frame.Panes(), frame.SettingsFile());
+    keeper.Show();
     OpenFirstFolder(frame, program.commandLine);
     TellProblems(frame, program.dataFolders);
     theme.FollowDesktop();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    keeper.Save();
+    return status;
 }
 
 int TakeShot(Program& program)
