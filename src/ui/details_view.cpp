@@ -247,7 +247,8 @@ void CDetailsView::keyboardSearch(const QString& search)
     if (const QModelIndex current = currentIndex(); current.column() > 0)
         selectionModel()->setCurrentIndex(current.siblingAtColumn(kNameColumn),
                                           QItemSelectionModel::NoUpdate);
-    QTreeView::keyboardSearch(search);
+    // A tree would stay at the first match when one letter is typed again.
+    QAbstractItemView::keyboardSearch(search);
 }
 
 // Whether the point is on what a file shows of itself: its icon or name, or anything in a selected row.
