@@ -243,12 +243,8 @@ QModelIndex CDetailsView::indexAt(const QPoint& point) const
 
 void CDetailsView::keyboardSearch(const QString& search)
 {
-    // Names are searched, whichever column was clicked.
-    if (const QModelIndex current = currentIndex(); current.column() > 0)
-        selectionModel()->setCurrentIndex(current.siblingAtColumn(kNameColumn),
-                                          QItemSelectionModel::NoUpdate);
-    // A tree would stay at the first match when one letter is typed again.
-    QAbstractItemView::keyboardSearch(search);
+    if (const int row = typeAhead.Find(*model(), currentIndex().row(), search); row >= 0)
+        setCurrentIndex(model()->index(row, kNameColumn));
 }
 
 // Whether the point is on what a file shows of itself: its icon or name, or anything in a selected row.

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "browser/list_order.h"
+#include "ui/list/type_ahead.h"
 
 #include <QTreeView>
 
@@ -63,6 +64,7 @@ private:
     void FitName();
     bool IsOnContent(const QPoint& point) const;
 
+    CTypeAhead typeAhead;
     bool wholeRows = true;
     bool nameFits = true;  // the name takes what is left
     bool arranging = false;

@@ -106,6 +106,12 @@ void CThumbnailView::reset()
     Regrid();
 }
 
+void CThumbnailView::keyboardSearch(const QString& search)
+{
+    if (const int row = typeAhead.Find(*model(), currentIndex().row(), search); row >= 0)
+        setCurrentIndex(model()->index(row, 0));
+}
+
 void CThumbnailView::Regrid()
 {
     const int count = model() ? model()->rowCount() : 0;

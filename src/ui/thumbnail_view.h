@@ -9,6 +9,7 @@
 #include "browser/media_file_list.h"
 #include "ui/grid.h"
 #include "ui/item_painter.h"
+#include "ui/list/type_ahead.h"
 
 #include <QListView>
 
@@ -33,6 +34,7 @@ public:
     QModelIndex indexAt(const QPoint& point) const override;
     void doItemsLayout() override;
     void reset() override;
+    void keyboardSearch(const QString& search) override;
 
 Q_SIGNALS:
     // Other items are to be seen than before.
@@ -71,6 +73,7 @@ private:
     const browser::CMediaFileList& list;
     CItemPainter itemPainter;
     CGrid grid;
+    CTypeAhead typeAhead;
     int side = 120;
     int hovered = -1;
     int wheelTurn = 0;  // eighths of a degree that made no notch yet
