@@ -10,6 +10,7 @@
 #include "browser/thumbnail_maker.h"
 #include "platform_linux/services.h"
 #include "suite/image/image_library.h"
+#include "suite/utility/utility_library.h"
 #include "ui/theme.h"
 #include "ui/viewer/picture_viewer.h"
 
@@ -120,6 +121,8 @@ int main(int argc, char** argv)
     }
     platform_linux::CLinuxServices services;
     services.Install();
+    suite::CUtilityLibrary utility(services.ProgramFolder());
+    utility.Install();
     suite::CSuiteImageLibrary images;
     platform::Os().images = &images;
     const QApplication application(argc, argv);
