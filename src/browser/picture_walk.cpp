@@ -78,13 +78,17 @@ std::vector<std::string> CPictureWalk::Nearby() const
     return nearby;
 }
 
+bool IsPicture(const MediaItem& item)
+{
+    return !item.isFolder && (item.types & kTypesWithThumbnail) != 0;
+}
+
 std::vector<std::string> PictureNames(const CMediaFileList& list)
 {
     std::vector<std::string> names;
     for (int i = 0; i < list.Count(); ++i) {
-        const MediaItem& item = list.Item(i);
-        if (!item.isFolder && (item.types & kTypesWithThumbnail) != 0)
-            names.push_back(item.name);
+        if (IsPicture(list.Item(i)))
+            names.push_back(list.Item(i).name);
     }
     return names;
 }

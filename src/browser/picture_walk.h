@@ -14,6 +14,7 @@ namespace browser
 {
 
 class CMediaFileList;
+struct MediaItem;
 
 enum class WalkEnds { stop, goAround };
 
@@ -46,7 +47,9 @@ private:
     int direction = 1;
 };
 
-// The list's files of which there are pictures: photos, handset images and frames of clips.
+// Whether it is a file of which there is a picture: a photo, handset image or the frame of a clip.
+bool IsPicture(const MediaItem& item);
+// All of those of a list.
 std::vector<std::string> PictureNames(const CMediaFileList& list);
 
 }  // namespace browser

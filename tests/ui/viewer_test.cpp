@@ -214,6 +214,19 @@ TEST_F(ViewerTest, TheSlideShowGoesAroundPastFilesThatAreNoPictures)
     QTest::keyClick(show, Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([&] { return show.isNull(); }, 30'000));
 
+    Open();
+    const struct {
+        Texts selected;
+        std::string next;
+    } rows[] = {{{"b.jpg", "c.jpg"}, c}, {{"c.jpg"}, a}};
+    for (const auto& row : rows) {
+        Select(row.selected);
+        show = frame->Pages()->ShowSlides();
+        EXPECT_TRUE(shows(c));
+        QTest::keyClick(show, Qt::Key_Right);
+        EXPECT_TRUE(shows(row.next));
+        show->close();
+    }
     show = ui::StartSlideShow({b}, {}, frame.get());
     EXPECT_TRUE(shows(b)) << "none can be shown: it says so";
 }

@@ -178,6 +178,11 @@ bool CPictureCanvas::IsReduced() const
 
 void CPictureCanvas::paintEvent(QPaintEvent*)
 {
+    if (PaneSize() != zoom.Pane()) {
+        // The window has gone to a screen of another density.
+        zoom.SetPane(PaneSize());
+        QMetaObject::invokeMethod(this, &CPictureCanvas::Changed, Qt::QueuedConnection);
+    }
     QPainter painter(this);
     painter.fillRect(rect(), ground);
     if (!image.isNull())

@@ -3,6 +3,7 @@
 #include "ui/viewer/viewer_pages.h"
 
 #include "ui/viewer/picture_viewer.h"
+#include "ui/viewer/slide_show.h"
 
 #include <QScreen>
 
@@ -70,6 +71,24 @@ bool CViewerPages::Open(int row)
     viewer->setFocus(Qt::OtherFocusReason);
     SelectShown();
     return true;
+}
+
+CSlideShow* CViewerPages::ShowSlides()
+{
+    const browser::CMediaFileList& items = list->List();
+    const QItemSelectionModel& selection = *list->View()->selectionModel();
+    std::vector<std::string> all;
+    std::vector<std::string> chosen;
+    for (int row = 0; row < items.Count(); ++row) {
+        if (!browser::IsPicture(items.Item(row)))
+            continue;
+        all.push_back(items.PathOf(row));
+        if (selection.isSelected(list->View()->model()->index(row, 0)))
+            chosen.push_back(all.back());
+    }
+    const int current = list->View()->currentIndex().row();
+    const std::string first = current >= 0 && current < items.Count() ? items.PathOf(current) : std::string();
+    return StartSlideShow(chosen.size() > 1 ? std::move(chosen) : std::move(all), first, window());
 }
 
 void CViewerPages::Close()

@@ -16,6 +16,7 @@ namespace ui
 {
 
 class CPictureViewer;
+class CSlideShow;
 
 class CViewerPages : public QStackedWidget
 {
@@ -30,6 +31,9 @@ public:
     // Back to the list, at the item that was shown.
     void Close();
     bool IsViewing() const;
+    // Starts a slide show of the selected pictures or, when fewer than two are selected, of the whole folder
+    // from the current one on. Null when there is none.
+    CSlideShow* ShowSlides();
     // Null until a picture is first shown.
     CPictureViewer* Viewer() const { return viewer; }
 
