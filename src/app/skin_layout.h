@@ -38,13 +38,13 @@ struct SkinElement {
     std::string name;  // the section
     int number = 0;    // of several in one section: placed by "rect_%d" when above 0
     ElementKind kind = ElementKind::plain;
-    std::optional<platform::Rect> rect;  // in the window, left to right
-    std::string image;                   // relative to the skin folder, as the other two
-    std::string imageLeft;
-    std::string imageCenter;
-    std::string imageRight;
+    std::optional<platform::Rect> rect{};  // in the window, left to right
+    std::string image{};                   // relative to the skin folder, as the other two
+    std::string imageLeft{};
+    std::string imageCenter{};
+    std::string imageRight{};
     int partWidth = 0;  // of the left and the right piece
-    std::optional<platform::ColorRef> color;
+    std::optional<platform::ColorRef> color{};
 };
 
 // A window's look. `elements` is filled by the window with what it has, and with its presets.

@@ -68,8 +68,7 @@ CTabButton* TabWindow::Usable(int from, int step) const
 
 void TabWindow::keyPressEvent(QKeyEvent* event)
 {
-    const auto at = std::find_if(buttons.begin(), buttons.end(),
-                                 [](const CTabButton* button) { return button->hasFocus(); });
+    const auto at = std::find(buttons.begin(), buttons.end(), focusWidget());
     const int here = int(at - buttons.begin());
     const int last = int(buttons.size()) - 1;
     const int right = layoutDirection() == Qt::RightToLeft ? -1 : 1;

@@ -34,14 +34,20 @@ QRect Box(const platform::Rect& rect)
     return {QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1)};
 }
 
+// The size below which something that the widget shows would be cut off.
+QSize Needed(const QWidget& widget)
+{
+    const bool isText = qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
+    return isText ? widget.sizeHint() : widget.minimumSizeHint();
+}
+
 // Whether what the widget shows has room in a box of that size.
 bool Fits(const QWidget& widget, const QSize& box)
 {
     const auto* label = qobject_cast<const QLabel*>(&widget);
     if (label && label->wordWrap())
         return label->heightForWidth(box.width()) <= box.height();
-    const bool isText = label || qobject_cast<const QAbstractButton*>(&widget);
-    const QSize needed = isText ? widget.sizeHint() : widget.minimumSizeHint();
+    const QSize needed = Needed(widget);
     return needed.width() <= box.width() && needed.height() <= box.height();
 }
 
@@ -93,8 +99,6 @@ void CDialogSkin::DressElement(Element& element, const app::SkinElement& look,
                                const app::WindowLayout& layout)
 {
     element.rect = look.rect;
-    const QSize least = look.rect ? Box(*look.rect).size() : QSize();
-    element.widget->setMinimumSize(element.ownLeast.expandedTo(least));
     const auto name = [](const std::string& text) { return QString::fromStdString(text); };
     const std::optional<QColor> colour = look.color ? std::optional(SkinColour(*look.color)) : std::nullopt;
     if (qobject_cast<QRadioButton*>(element.widget))
@@ -153,6 +157,12 @@ bool CDialogSkin::CanPlace() const
 void CDialogSkin::Place()
 {
     const QScopedValueRollback guard(working, true);
+    // A least size of its own makes Qt's layouts pass over what the widget needs for its text.
+    for (const Element& element : elements) {
+        if (element.widget && element.rect)
+            element.widget->setMinimumSize(element.ownLeast.expandedTo(Box(*element.rect).size())
+                                               .expandedTo(element.widget->minimumSizeHint()));
+    }
     const bool wasPlaced = std::exchange(placed, window.layout() && CanPlace());
     if (!placed) {
         if (wasPlaced) {
@@ -179,6 +189,7 @@ bool CDialogSkin::eventFilter(QObject*, QEvent* event)
     if (working)
         return false;
     switch (event->type()) {
+    case QEvent::ApplicationPaletteChange:
     case QEvent::PaletteChange:
         if (dressedFrom != SkinFolder())
             Dress();

@@ -4,6 +4,7 @@
 
 #include "ui/controls/skin.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QStyle>
 
@@ -17,7 +18,7 @@ void SetGround(QWidget& widget, const std::optional<QColor>& colour)
     own.setResolveMask(0);
     if (colour) {
         own.setColor(QPalette::Window, *colour);
-        const QColor text = widget.palette().color(QPalette::Active, QPalette::WindowText);
+        const QColor text = QApplication::palette(&widget).color(QPalette::Active, QPalette::WindowText);
         if (const QColor readable = Readable(text, *colour); readable != text)
             own.setColor(QPalette::WindowText, readable);
     }
