@@ -54,6 +54,17 @@ void CLeftPane::ShowTree(PanelMode tree)
     tabs.Select(tree == PanelMode::folder ? kFolderTab : kDeviceTab);
 }
 
+bool CLeftPane::LeaveSearch(const std::function<bool()>& ask) const
+{
+    if (mode != PanelMode::search || !isSearchBusy || !isSearchBusy())
+        return true;
+    if (!ask())
+        return false;
+    if (stopSearch)
+        stopSearch();
+    return true;
+}
+
 std::string CLeftPane::OpenSearch(const std::string& deviceTree, const std::string& folderTree)
 {
     if (mode != PanelMode::search)

@@ -7,6 +7,7 @@
 #include "platform/string_ids.h"
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,11 +59,17 @@ class CLeftPane
 {
 public:
     CTabs tabs;
+    // The search panel's; without them, no search ever runs.
+    std::function<bool()> isSearchBusy;
+    std::function<void()> stopSearch;
 
     void ShowTree(PanelMode tree);
     // Shows the search panel. Its starting folder is the one selected in the tree that was shown:
     // `folderTree` when that is the folder tree, else `deviceTree`.
     std::string OpenSearch(const std::string& deviceTree, const std::string& folderTree);
+    // Whether a tree may take the place of the search panel. While a search runs, `ask` decides; on true the
+    // search is stopped.
+    bool LeaveSearch(const std::function<bool()>& ask) const;
     PanelMode Mode() const { return mode; }
     PanelMode PreviousMode() const { return previousMode; }
 

@@ -6,6 +6,7 @@
 #include "ui/watch/ie_shell_tree_ctrl.h"
 #include "ui/words.h"
 
+#include <QMessageBox>
 #include <QVBoxLayout>
 
 namespace ui
@@ -55,6 +56,8 @@ void CLeftView::ShowTab(int id)
 {
     if (id == app::kSearchTab)
         return ShowSearch();
+    if (!state.LeaveSearch([this] { return AskToLeaveSearch(); }))
+        return;
     ShowTree(id == app::kFolderTab ? app::PanelMode::folder : app::PanelMode::device);
     CFolderTree* tree = Tree();
     // A tree that has nothing selected takes over the folder on show where it leads there.
@@ -64,6 +67,12 @@ void CLeftView::ShowTab(int id)
         chosen = path;
         Q_EMIT FolderChosen(path);
     }
+}
+
+bool CLeftView::AskToLeaveSearch()
+{
+    return QMessageBox::question(this, window()->windowTitle(), Text(StringId::skinLeaveSearch),
+                                 QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
 }
 
 void CLeftView::ShowTree(app::PanelMode mode)

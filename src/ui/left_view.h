@@ -26,6 +26,8 @@ public:
     void SelectFolder(const std::string& path);
     // The folder selected in the tree that is shown, or was before the search.
     std::string Folder() const;
+    // The state that the search panel reports to.
+    app::CLeftPane& State() { return state; }
     app::TabMode Mode() const { return state.tabs.Mode(); }
     TabWindow* Tabs() const { return tabBar; }
     CFolderTree* Tree() const;
@@ -36,6 +38,7 @@ Q_SIGNALS:
 private:
     void ShowTree(app::PanelMode mode);
     void ShowSearch();
+    bool AskToLeaveSearch();
     CFolderTree* FolderTree();
     QWidget* MakeSearchPanel();
 

@@ -98,6 +98,31 @@ TEST(LeftPane, TheSearchStartsInTheFolderOfTheTreeThatWasShown)
     }
 }
 
+TEST(LeftPane, ARunningSearchIsOnlyLeftAndStoppedWhenTheUserSaysSo)
+{
+    struct Case {
+        bool open;
+        bool busy;
+        bool answer;
+        bool leaves;
+        std::string steps;
+    };
+    for (const Case& c : {Case{true, true, false, false, "ask "}, Case{true, true, true, true, "ask stop "},
+                          Case{true, false, false, true, ""}, Case{false, true, false, true, ""}}) {
+        app::CLeftPane pane;
+        std::string steps;
+        pane.isSearchBusy = [&] { return c.busy; };
+        pane.stopSearch = [&] { steps += "stop "; };
+        if (c.open)
+            pane.OpenSearch("/fav", "/home");
+
+        EXPECT_EQ(pane.LeaveSearch([&] { return steps += "ask ", c.answer; }), c.leaves);
+
+        EXPECT_EQ(steps, c.steps);
+        EXPECT_EQ(pane.Mode(), c.open ? app::PanelMode::search : app::PanelMode::device);
+    }
+}
+
 TEST(Places, FavouritesHaveTheirAlbumsAndDevicesTheRemovableVolumes)
 {
     support::TestServices services;
