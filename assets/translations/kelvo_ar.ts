@@ -115,6 +115,26 @@
    <source>Searching by name, caption and date comes in a later version.</source>
    <translation type="unfinished">سيأتي البحث بالاسم والتعليق والتاريخ في إصدار لاحق.</translation>
   </message>
+  <message id="skinTabs">
+   <source>Places</source>
+   <translation type="unfinished">الأماكن</translation>
+  </message>
+  <message id="skinTabDeviceTip">
+   <source>Favourites and devices</source>
+   <translation type="unfinished">المفضلة والأجهزة</translation>
+  </message>
+  <message id="skinTabFolderTip">
+   <source>All folders of this computer</source>
+   <translation type="unfinished">كل مجلدات هذا الحاسوب</translation>
+  </message>
+  <message id="skinTabSearchTip">
+   <source>Find files (F3)</source>
+   <translation type="unfinished">البحث عن الملفات (F3)</translation>
+  </message>
+  <message id="skinLeaveSearch">
+   <source>Changing folders will cancel your search. Are you sure you want to change folders?</source>
+   <translation type="unfinished">سيؤدي تغيير المجلد إلى إلغاء البحث. هل تريد تغيير المجلد؟</translation>
+  </message>
   <message id="statusFiles" numerus="yes">
    <source>%1 files</source>
    <translation type="unfinished">

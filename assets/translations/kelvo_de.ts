@@ -115,6 +115,26 @@
    <source>Searching by name, caption and date comes in a later version.</source>
    <translation type="unfinished">Die Suche nach Name, Beschriftung und Datum kommt in einer späteren Version.</translation>
   </message>
+  <message id="skinTabs">
+   <source>Places</source>
+   <translation type="unfinished">Orte</translation>
+  </message>
+  <message id="skinTabDeviceTip">
+   <source>Favourites and devices</source>
+   <translation type="unfinished">Favoriten und Geräte</translation>
+  </message>
+  <message id="skinTabFolderTip">
+   <source>All folders of this computer</source>
+   <translation type="unfinished">Alle Ordner dieses Rechners</translation>
+  </message>
+  <message id="skinTabSearchTip">
+   <source>Find files (F3)</source>
+   <translation type="unfinished">Dateien finden (F3)</translation>
+  </message>
+  <message id="skinLeaveSearch">
+   <source>Changing folders will cancel your search. Are you sure you want to change folders?</source>
+   <translation type="unfinished">Ein anderer Ordner beendet die Suche. Wirklich den Ordner wechseln?</translation>
+  </message>
   <message id="statusFiles" numerus="yes">
    <source>%1 files</source>
    <translation type="unfinished">
