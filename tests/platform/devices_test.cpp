@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Volumes that come and go, as a stand-in for UDisks2 tells it on a bus of the test's own.
+#include "platform_linux/desktop/linux_devices.h"
+#include "support/temp_folder.h"
+
+#include <QCoreApplication>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QElapsedTimer>
+#include <QProcess>
+
+#include <gmock/gmock.h>
+
+namespace
+{
+
+using platform::DeviceEvent;
+using platform_linux::CLinuxDevices;
+
+const QString kService = QStringLiteral("org.freedesktop.UDisks2");
+const QString kRoot = QStringLiteral("/org/freedesktop/UDisks2");
+
+struct MockMethod {
+    QString name, in, out, code;
+};
+QDBusArgument& operator<<(QDBusArgument& to, const MockMethod& method)
+{
+    to.beginStructure();
+    to << method.name << method.in << method.out << method.code;
+    to.endStructure();
+    return to;
+}
+const QDBusArgument& operator>>(const QDBusArgument& from, MockMethod&)
+{
+    return from;
+}
+
+QVariantMap MountedAt(const char* path)
+{
+    const QList<QByteArray> points = *path ? QList<QByteArray>{QByteArray(path) + '\0'} : QList<QByteArray>{};
+    return {{QStringLiteral("MountPoints"), QVariant::fromValue(points)}};
+}
+
+class Devices : public testing::Test
+{
+protected:
+    int argc = 1;
+    char name[5] = "test";
+    char* argv[2] = {name, nullptr};
+    QCoreApplication application{argc, argv};
+    support::CTempFolder folder;
+    QProcess daemon;
+    QProcess mock;
+    QString address;
+    std::vector<platform::DeviceChange> told;
+
+    void SetUp() override
+    {
+        qDBusRegisterMetaType<QList<QByteArray>>();
+        qDBusRegisterMetaType<MockMethod>();
+        qDBusRegisterMetaType<QList<MockMethod>>();
+        daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address=1"});
+        ASSERT_TRUE(daemon.waitForReadyRead(10'000)) << "dbus-daemon does not start";
+        address = QString::fromUtf8(daemon.readLine()).trimmed();
+        QDBusConnection::connectToBus(address, "devices");
+    }
+    void TearDown() override
+    {
+        QDBusConnection::disconnectFromBus("devices");
+        for (QProcess* process : {&mock, &daemon}) {
+            process->kill();
+            process->waitForFinished();
+        }
+    }
+    static QDBusConnection Bus() { return QDBusConnection("devices"); }
+    static bool RunUntil(const std::function<bool()>& done)
+    {
+        QElapsedTimer clock;
+        for (clock.start(); !done() && clock.elapsed() < 20'000;)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
+        return done();
+    }
+    void StartMock()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DBUS_SYSTEM_BUS_ADDRESS", address);
+        mock.setProcessEnvironment(environment);
+        mock.start("/usr/bin/python3", {"-m", "dbusmock", "--system", "--is-object-manager", kService, kRoot,
+                               "org.freedesktop.UDisks2.Manager"});
+        ASSERT_TRUE(RunUntil([] { return Bus().interface()->isServiceRegistered(kService).value(); }))
+            << mock.readAllStandardError().toStdString();
+    }
+    static void Call(const QString& path, const QString& method, const QVariantList& arguments)
+    {
+        QDBusMessage call =
+            QDBusMessage::createMethodCall(kService, path, "org.freedesktop.DBus.Mock", method);
+        call.setArguments(arguments);
+        const QDBusMessage answer = Bus().call(call);
+        ASSERT_EQ(answer.type(), QDBusMessage::ReplyMessage) << answer.errorMessage().toStdString();
+    }
+    static void AddObject(const QString& path, const QString& interface, const QVariantMap& properties)
+    {
+        Call(kRoot, "AddObject", {path, interface, properties, QVariant::fromValue(QList<MockMethod>())});
+    }
+    static void AddDisk(const QString& name, const char* mountPoint, bool optical)
+    {
+        const QString drive = kRoot + "/drives/" + name;
+        const QString block = kRoot + "/block_devices/" + name;
+        AddObject(drive, kService + ".Drive", {{"Optical", optical}});
+        AddObject(block, kService + ".Block", {{"Drive", QVariant::fromValue(QDBusObjectPath(drive))}});
+        Call(block, "AddProperties", {kService + ".Filesystem", MountedAt(mountPoint)});
+    }
+    static void Mount(const QString& name, const char* mountPoint)
+    {
+        Call(kRoot + "/block_devices/" + name, "UpdateProperties",
+             {kService + ".Filesystem", MountedAt(mountPoint)});
+    }
+    // Watches, with a mount table that never changes.
+    void Watch(CLinuxDevices& devices)
+    {
+        devices.Watch([this](const platform::DeviceChange& change) { told.push_back(change); });
+        // Whatever is asked of the bus after this has been answered after the first look.
+        RunUntil([] { return true; });
+    }
+    void Expect(DeviceEvent event, const char* mountPoint, std::uint16_t flags, std::uint32_t mask)
+    {
+        ASSERT_TRUE(RunUntil([this] { return !told.empty(); })) << mountPoint;
+        EXPECT_EQ(told[0].event, event);
+        EXPECT_EQ(told[0].mountPoint, mountPoint);
+        EXPECT_EQ(told[0].flags, flags) << mountPoint;
+        EXPECT_EQ(told[0].unitMask, mask) << mountPoint;
+        EXPECT_TRUE(told[0].isVolume);
+        EXPECT_EQ(told.size(), 1U);
+        told.clear();
+    }
+};
+
+}  // namespace
+
+TEST_F(Devices, CardsArriveAndLeaveAndADiscIsAChangeOfMedia)
+{
+    StartMock();
+    AddDisk("sda", "/", false);
+    AddDisk("sdb", "", false);
+    AddDisk("sr0", "", true);
+    CLinuxDevices devices(Bus(), folder.Path("no table"));
+    Watch(devices);
+    ASSERT_TRUE(RunUntil([&] { return devices.HasBus(); }));
+
+    Mount("sdb", "/media/card");
+    Expect(DeviceEvent::arrived, "/media/card", 0, 2);
+    Mount("sr0", "/media/disc");
+    Expect(DeviceEvent::arrived, "/media/disc", platform::kMediaChange, 4);
+    Mount("sdb", "");
+    Expect(DeviceEvent::removed, "/media/card", 0, 2);
+    // Pulled out while mounted.
+    Call(kRoot, "RemoveObject", {kRoot + "/block_devices/sr0"});
+    Expect(DeviceEvent::removed, "/media/disc", platform::kMediaChange, 2);
+}
+
+TEST_F(Devices, WithoutUDisks2NothingIsToldOfTheBusAndNothingBreaks)
+{
+    CLinuxDevices onBus(Bus(), folder.Path("no table"));
+    CLinuxDevices offBus(QDBusConnection("never connected"));
+    Watch(onBus);
+    Watch(offBus);
+
+    EXPECT_FALSE(onBus.HasBus());
+    EXPECT_TRUE(told.empty());
+}
