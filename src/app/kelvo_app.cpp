@@ -137,10 +137,15 @@ std::string CKelvoApp::Caption() const
 
 void CKelvoApp::ExitInstance()
 {
-    if (exitMode == 1 || exitMode == 2 || Os().messages->BringToForeground(kLauncherClass)) {
-        return;
+    if (exitMode != 1 && exitMode != 2) {
+        ShowLauncher();
     }
-    Os().shell->WinExec(fmt::format("\"{}\"", browser::JoinPath(programFolder, kLauncherProgram)));
+}
+
+bool CKelvoApp::ShowLauncher() const
+{
+    return Os().messages->BringToForeground(kLauncherClass) ||
+           Os().shell->WinExec(fmt::format("\"{}\"", browser::JoinPath(programFolder, kLauncherProgram)));
 }
 
 }  // namespace app

@@ -26,6 +26,8 @@ public:
     StartResult InitInstance(const std::string& commandLine);
     // Hands back to the suite's launcher unless ExitMode is 1 or 2.
     void ExitInstance();
+    // Brings the suite's launcher forward, or starts it; false when there is none.
+    bool ShowLauncher() const;
     // The program's places and the folders recorded in the registry.
     void ReadConfiguration();
     // Takes /load and /pnplaunch out of the command line.

@@ -7,6 +7,9 @@
 #include "platform/services.h"
 #include "platform/shell.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace app
 {
 
@@ -100,6 +103,21 @@ Place FavouriteFolder(CDataFolders& dataFolders, DataFolderKind kind, PlaceKind 
 
 }  // namespace
 
+std::vector<Place> VolumePlaces(const std::vector<platform::Volume>& volumes, VolumeChoice choice)
+{
+    std::vector<Place> places;
+    for (const platform::Volume& volume : volumes) {
+        if (volume.mountPoint == "/" || (choice == VolumeChoice::removable && !volume.removable))
+            continue;
+        places.push_back({volume.removable ? PlaceKind::removableVolume : PlaceKind::volume,
+                          volume.label,
+                          volume.mountPoint,
+                          true,
+                          {}});
+    }
+    return places;
+}
+
 std::vector<Place> DevicePlaces(CDataFolders& dataFolders)
 {
     std::vector<Place> places;
@@ -114,11 +132,7 @@ std::vector<Place> DevicePlaces(CDataFolders& dataFolders)
         places.push_back(std::move(favourites));
     }
     Place devices{PlaceKind::heading, "", "", false, {}, StringId::placeDevices};
-    for (const platform::Volume& volume : platform::Os().shell->Volumes()) {
-        if (volume.removable)
-            devices.children.push_back(
-                {PlaceKind::removableVolume, volume.label, volume.mountPoint, true, {}});
-    }
+    devices.children = VolumePlaces(platform::Os().shell->Volumes(), VolumeChoice::removable);
     places.push_back(std::move(devices));
     return places;
 }
@@ -130,14 +144,7 @@ std::vector<Place> FolderPlaces()
     if (const auto home = shell.GetFolderPath(platform::KnownFolder::home, false))
         places.push_back({PlaceKind::home, "", *home, true, {}, StringId::placeHome});
     places.push_back({PlaceKind::fileSystem, "", "/", true, {}, StringId::placeFileSystem});
-    for (const platform::Volume& volume : shell.Volumes()) {
-        if (volume.mountPoint != "/")
-            places.push_back({volume.removable ? PlaceKind::removableVolume : PlaceKind::volume,
-                              volume.label,
-                              volume.mountPoint,
-                              true,
-                              {}});
-    }
+    std::ranges::move(VolumePlaces(shell.Volumes(), VolumeChoice::all), std::back_inserter(places));
     return places;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/data_folders.h"
+#include "platform/shell.h"
 #include "platform/string_ids.h"
 
 #include <array>
@@ -104,6 +105,9 @@ struct Place {
 
 // The favourite folders, each with its albums, then the removable volumes below a heading of their own.
 std::vector<Place> DevicePlaces(CDataFolders& dataFolders);
+// Mounted volumes other than the file system's root, or the removable ones of them.
+enum class VolumeChoice { all, removable };
+std::vector<Place> VolumePlaces(const std::vector<platform::Volume>& volumes, VolumeChoice choice);
 // The home folder, the file system and the other mounted volumes.
 std::vector<Place> FolderPlaces();
 

@@ -103,6 +103,21 @@ void CFolderTree::ExpandPlaces()
     }
 }
 
+void CFolderTree::UpdateVolumes(const std::vector<app::Place>& volumes)
+{
+    const std::string before = Folder();
+    selecting = true;
+    folders.UpdateVolumes(volumes);
+    // The view has gone on to a neighbour by itself.
+    if (Folder() != before)
+        setCurrentIndex({});
+    selecting = false;
+    for (int row = 0; row < folders.rowCount(); ++row) {
+        if (folders.Path(folders.index(row, 0)).empty())
+            expand(folders.index(row, 0));
+    }
+}
+
 void CFolderTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTreeView::currentChanged(current, previous);

@@ -28,6 +28,8 @@ public:
     // Reads all folders anew that have been read before; nothing is told of a selected folder that is gone.
     void RefreshLoaded();
     bool IsReading() const { return folders.IsReading(); }
+    // Takes in which volumes there are now. A selected folder whose volume went is selected no more.
+    void UpdateVolumes(const std::vector<app::Place>& volumes);
 
 Q_SIGNALS:
     // The user has selected another folder.

@@ -54,6 +54,11 @@ bool IsWithin(const std::string& path, const std::string& folder)
     return path.size() == folder.size() || folder == "/" || path[folder.size()] == '/';
 }
 
+bool IsVolume(app::PlaceKind kind)
+{
+    return kind == app::PlaceKind::volume || kind == app::PlaceKind::removableVolume;
+}
+
 }  // namespace
 
 struct CFolderTreeModel::Node {
@@ -260,6 +265,40 @@ void CFolderTreeModel::RemoveGone(Node* node, const std::vector<std::string>& pr
         node->children.erase(node->children.begin() + static_cast<std::ptrdiff_t>(row));
         endRemoveRows();
     }
+}
+
+void CFolderTreeModel::UpdateVolumes(const std::vector<app::Place>& volumes)
+{
+    const auto heading = std::ranges::find(root->children, app::PlaceKind::heading,
+                                           [](const auto& node) { return node->kind; });
+    Node* const parent = heading == root->children.end() ? root.get() : heading->get();
+    for (std::size_t row = parent->children.size(); row-- > 0;) {
+        const Node& node = *parent->children[row];
+        if (IsVolume(node.kind) && std::ranges::find(volumes, node.path, &app::Place::path) == volumes.end())
+            RemoveVolume(parent, row);
+    }
+    auto& children = parent->children;
+    // The volumes stand behind everything else.
+    auto row = static_cast<std::size_t>(
+        std::ranges::find_if(children, [](const auto& node) { return IsVolume(node->kind); }) -
+        children.begin());
+    for (const app::Place& volume : volumes) {
+        if (row == children.size() || children[row]->path != volume.path) {
+            beginInsertRows(IndexOf(parent), static_cast<int>(row), static_cast<int>(row));
+            children.insert(children.begin() + static_cast<std::ptrdiff_t>(row), MakeNode(volume, parent));
+            endInsertRows();
+        }
+        ++row;
+    }
+}
+
+void CFolderTreeModel::RemoveVolume(Node* parent, std::size_t row)
+{
+    const std::string path = parent->children[row]->path;
+    std::erase_if(reading, [&path](const Node* node) { return IsWithin(node->path, path); });
+    beginRemoveRows(IndexOf(parent), static_cast<int>(row), static_cast<int>(row));
+    parent->children.erase(parent->children.begin() + static_cast<std::ptrdiff_t>(row));
+    endRemoveRows();
 }
 
 QModelIndex CFolderTreeModel::index(int row, int column, const QModelIndex& parent) const

@@ -36,6 +36,9 @@ public:
     // Starts reading all folders anew that have been read before.
     void ReadAgain() { ReadAgainBelow(root.get()); }
     bool IsReading() const { return !reading.empty(); }
+    // Takes in which volumes there are now, below the heading where there is one, else beside the other
+    // places. Those that stay keep what is below them.
+    void UpdateVolumes(const std::vector<app::Place>& volumes);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -60,6 +63,7 @@ private:
     void ReadPiece();
     void TakeIn(Node* node);
     void Insert(Node* node, std::size_t row, std::vector<std::string> names);
+    void RemoveVolume(Node* parent, std::size_t row);
     void RemoveGone(Node* node, const std::vector<std::string>& present);
 
     std::unique_ptr<Node> root;

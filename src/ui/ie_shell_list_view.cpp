@@ -33,7 +33,7 @@ QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent
     button->setAutoRaise(true);
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setAccessibleName(action->text());
+    button->setAccessibleName(action->iconText());
     return button;
 }
 

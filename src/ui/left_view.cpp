@@ -120,4 +120,11 @@ void CLeftView::SelectFolder(const std::string& path)
     Q_EMIT FolderChosen(path);
 }
 
+void CLeftView::UpdateVolumes(const std::vector<platform::Volume>& volumes)
+{
+    deviceTree->UpdateVolumes(app::VolumePlaces(volumes, app::VolumeChoice::removable));
+    if (folderTree)
+        folderTree->UpdateVolumes(app::VolumePlaces(volumes, app::VolumeChoice::all));
+}
+
 }  // namespace ui

@@ -31,6 +31,8 @@ public:
     app::TabMode Mode() const { return state.tabs.Mode(); }
     TabWindow* Tabs() const { return tabBar; }
     CFolderTree* Tree() const;
+    // Takes in which volumes are mounted now.
+    void UpdateVolumes(const std::vector<platform::Volume>& volumes);
 
 Q_SIGNALS:
     void FolderChosen(const std::string& path);

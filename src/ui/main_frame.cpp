@@ -5,6 +5,7 @@
 #include "browser/file_names.h"
 #include "platform/services.h"
 #include "platform/shell.h"
+#include "ui/background.h"
 #include "ui/controls/skin.h"
 #include "ui/display_text.h"
 #include "ui/list/list_commands.h"
@@ -36,9 +37,12 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
       right(new CIEShellListView(owner.DbFolder(), SettingsFile(), *menu)), pages(new CViewerPages(right)),
-      status(new CStatusBar(this)), panes(new QSplitter(this)), fileCommands(router, *this),
-      editCommands(router, *this), viewCommands(router, *this), toolCommands(router, *this),
-      helpCommands(router, *this)
+      status(new CStatusBar(this)), panes(new QSplitter(this)), bars(*menu, owner.ProgramFolder(), *this),
+      contextMenus(new CContextMenus(
+          *menu, [this](app::FrameMessage message, std::int64_t lParam) { SendMessage(message, lParam); },
+          this)),
+      fileCommands(router, *this), editCommands(router, *this), viewCommands(router, *this),
+      toolCommands(router, *this), helpCommands(router, *this)
 {
     UseSkin(owner.SkinFolder());
     LoadSettings();
@@ -51,10 +55,15 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
     thumbnailTimer.setInterval(kThumbnailPeriod);
     connect(&thumbnailTimer, &QTimer::timeout, this, &CMainFrame::Tick);
     state.Listen();
+    contextMenus->Watch(left, app::MenuPane::leftPane);
+    contextMenus->Watch(List(), app::MenuPane::list);
+    WatchDevices();
 }
 
 CMainFrame::~CMainFrame()
 {
+    if (platform::Os().devices)
+        platform::Os().devices->Watch(nullptr);
     settings.Save();
     app::CurrentSettings() = nullptr;
 }
@@ -137,7 +146,8 @@ void CMainFrame::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F6)
         SwitchPane();
-    else
+    else if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::ShiftModifier ||
+             !contextMenus->OpenByKey())
         QMainWindow::keyPressEvent(event);
 }
 
@@ -149,9 +159,53 @@ void CMainFrame::SwitchPane()
         left->setFocus(Qt::OtherFocusReason);
 }
 
-void CMainFrame::Tell(const QString& text)
+void CMainFrame::WatchDevices()
 {
-    auto* box = new QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this);
+    platform::CDevices* source = platform::Os().devices;
+    if (!source)
+        return;
+    source->Watch([this](const platform::DeviceChange& change) {
+        devices.OnDeviceChange(change);
+        InBackground(
+            this, [shell = platform::Os().shell] { return shell->Volumes(); },
+            [this](const std::vector<platform::Volume>& volumes) { left->UpdateVolumes(volumes); });
+        const std::string& folder = List()->List().Folder();
+        if (folder == change.mountPoint || folder.starts_with(change.mountPoint + "/"))
+            List()->Refresh();
+    });
+}
+
+void CMainFrame::SendMessage(app::FrameMessage message, std::int64_t lParam)
+{
+    switch (message) {
+    case app::FrameMessage::leftPaneMenu:
+        contextMenus->Open(app::MenuPane::leftPane, lParam);
+        break;
+    case app::FrameMessage::listMenu:
+        contextMenus->Open(app::MenuPane::list, lParam);
+        break;
+    case app::FrameMessage::refreshList:
+        List()->Refresh();
+        break;
+    }
+}
+
+std::vector<std::string> CMainFrame::SelectedPaths() const
+{
+    std::vector<std::string> paths;
+    const QItemSelectionModel& selection = *List()->View()->selectionModel();
+    const int rows = selection.hasSelection() ? List()->List().Count() : 0;
+    for (int row = 0; row < rows; ++row) {
+        if (selection.isSelected(selection.model()->index(row, 0)))
+            paths.push_back(List()->List().PathOf(row));
+    }
+    return paths;
+}
+
+void CMainFrame::Tell(const QString& text, const QString& title)
+{
+    auto* box = new QMessageBox(QMessageBox::Information, title.isEmpty() ? windowTitle() : title, text,
+                                QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();

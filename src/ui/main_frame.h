@@ -5,6 +5,7 @@
 #pragma once
 
 #include "app/data_folders.h"
+#include "app/device_state.h"
 #include "app/kelvo_app.h"
 #include "app/main_frame_state.h"
 #include "app/settings.h"
@@ -13,6 +14,8 @@
 #include "ui/commands/help_commands.h"
 #include "ui/commands/tool_commands.h"
 #include "ui/commands/view_commands.h"
+#include "ui/frame/context_menus.h"
+#include "ui/frame/frame_bars.h"
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
@@ -40,8 +43,13 @@ public:
     void GoTo(const std::string& folder, const std::string& selectName = {});
     // The folder that the window starts with when none is asked for.
     void GoToStart();
-    // Tells the user of things that went wrong, without waiting for an answer.
-    void Tell(const QString& text);
+    // Tells the user of things that went wrong, without waiting for an answer; the window's own title stands
+    // above it where none is given.
+    void Tell(const QString& text, const QString& title = {});
+    // The panes' private messages.
+    void SendMessage(app::FrameMessage message, std::int64_t lParam = 0);
+    // The files and folders selected in the list, in its order.
+    std::vector<std::string> SelectedPaths() const;
 
     const app::CKelvoApp& Application() const { return owner; }
     app::CDataFolders& Folders() const { return folders; }
@@ -54,7 +62,11 @@ public:
     std::string SettingsFile() const;
     const CMainMenu* Menu() const { return menu; }
     const CCommandRouter& Router() const { return router; }
+    CFrameBars& Bars() { return bars; }
+    CContextMenus& ContextMenus() { return *contextMenus; }
+    CToolCommands& Tools() { return toolCommands; }
     app::CMainFrameState& State() { return state; }
+    const app::CDeviceState& Devices() const { return devices; }
     // Whether the thumbnail timer runs.
     bool IsTicking() const { return thumbnailTimer.isActive(); }
 
@@ -68,11 +80,13 @@ private:
     void Tick();
     void GoUp();
     void SwitchPane();
+    void WatchDevices();
 
     const app::CKelvoApp& owner;
     app::CDataFolders& folders;
     app::CSettings settings;
     app::CMainFrameState state;
+    app::CDeviceState devices;
     CMainMenu* menu;
     CLeftView* left;
     CIEShellListView* right;
@@ -81,6 +95,8 @@ private:
     QSplitter* panes;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
+    CFrameBars bars;
+    CContextMenus* contextMenus;
     CCommandRouter router;
     CFileCommands fileCommands;
     CEditCommands editCommands;

@@ -29,6 +29,31 @@ QList<QKeySequence> Keys(const app::Command& command)
     return keys;
 }
 
+// Marks, in each text of a menu that has none yet, the first letter that no other has, so that Alt and the
+// letter, or the letter alone once the menu is open, choose it in any language.
+void GiveKeys(const QList<QAction*>& entries)
+{
+    QString taken;
+    for (const QAction* entry : entries) {
+        const QString text = entry->text().toUpper();
+        if (const auto mark = text.indexOf(QLatin1Char('&')); mark >= 0)
+            taken += text.mid(mark + 1, 1);
+    }
+    for (QAction* entry : entries) {
+        QString text = entry->text();
+        if (text.contains(QLatin1Char('&')))
+            continue;
+        const auto isFree = [&taken](QChar letter) {
+            return letter.isLetterOrNumber() && !taken.contains(letter.toUpper());
+        };
+        const auto letter = std::find_if(text.begin(), text.end(), isFree);
+        if (letter == text.end())
+            continue;
+        taken += letter->toUpper();
+        entry->setText(text.insert(letter - text.begin(), QLatin1Char('&')));
+    }
+}
+
 }  // namespace
 
 CMainMenu::CMainMenu(QMainWindow& window) : QObject(&window)
@@ -41,6 +66,9 @@ CMainMenu::CMainMenu(QMainWindow& window) : QObject(&window)
         menu->addAction(action);
         actions.emplace(command.id, action);
     }
+    GiveKeys(window.menuBar()->actions());
+    for (const auto& [id, menu] : menus)
+        GiveKeys(menu->actions());
 }
 
 QMenu* CMainMenu::MenuOf(QMainWindow& window, app::MenuId id)
@@ -51,7 +79,7 @@ QMenu* CMainMenu::MenuOf(QMainWindow& window, app::MenuId id)
     const QString text = Text(entry.text);
     QMenu* menu = nullptr;
     if (entry.parent == id) {
-        menu = window.menuBar()->addMenu(QLatin1Char('&') + text);
+        menu = window.menuBar()->addMenu(text);
     } else {
         if (id == app::MenuId::thumbnailSize)
             MenuOf(window, entry.parent)->addSeparator();

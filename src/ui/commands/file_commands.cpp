@@ -2,13 +2,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/commands/file_commands.h"
 
+#include "app/suite_programs.h"
+#include "platform/file_system.h"
+#include "ui/dialogs/properties_dialog.h"
+#include "ui/display_text.h"
 #include "ui/main_frame.h"
+#include "ui/words.h"
 
 namespace ui
 {
 
+namespace
+{
+
+void Print(CMainFrame& frame)
+{
+    switch (app::StartPrinting(frame.Application().ProgramFolder(), frame.SelectedPaths())) {
+    case app::StartedProgram::started:
+        // Until the suite says that the program has ended.
+        frame.setEnabled(false);
+        break;
+    case app::StartedProgram::noPictures:
+        frame.Tell(Text(StringId::suiteNoPictures));
+        break;
+    case app::StartedProgram::missing:
+        frame.Tell(Text(StringId::suiteNoPrinter));
+        break;
+    case app::StartedProgram::notWritten:
+        frame.Tell(Text(StringId::suiteListNotWritten, Shown(platform::Os().files->LastError())));
+        break;
+    }
+}
+
+void ShowProperties(CMainFrame& frame)
+{
+    std::vector<std::string> paths = frame.SelectedPaths();
+    const bool inLeftPane = frame.LeftView()->isAncestorOf(frame.focusWidget());
+    if ((paths.empty() || inLeftPane) && !frame.LeftView()->Folder().empty())
+        paths = {frame.LeftView()->Folder()};
+    if (paths.empty())
+        return frame.Tell(Text(StringId::propertiesNothing));
+    auto* dialog = new CPropertiesDialog(std::move(paths), &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+}  // namespace
+
 CFileCommands::CFileCommands(CCommandRouter& router, CMainFrame& frame)
 {
+    using enum app::CommandId;
+    router.On(print, [&frame] { Print(frame); });
+    router.On(properties, [&frame] { ShowProperties(frame); });
     router.On(app::CommandId::exit, [&frame] { frame.close(); });
 }
 

@@ -2,16 +2,89 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/commands/tool_commands.h"
 
+#include "platform/file_system.h"
+#include "ui/dialogs/options_dialog.h"
+#include "ui/dialogs/select_source_dialog.h"
+#include "ui/display_text.h"
 #include "ui/main_frame.h"
 #include "ui/words.h"
 
 namespace ui
 {
 
-CToolCommands::CToolCommands(CCommandRouter& router, CMainFrame& frame)
+CToolCommands::CToolCommands(CCommandRouter& router, CMainFrame& mainFrame)
+    : frame(mainFrame), capture(new CCaptureRun(mainFrame))
 {
-    router.On(app::CommandId::mms, [&frame] { frame.Tell(Text(StringId::suiteLaunchMms)); });
-    router.On(app::CommandId::sms, [&frame] { frame.Tell(Text(StringId::suiteLaunchSms)); });
+    using enum app::CommandId;
+    RegisterSuite(router);
+    router.On(videoTrim, [this] { TrimVideo(); });
+    router.On(screenCapture, [this] { StartCapture(); });
+    router.On(selectSource, [this] { SelectSource(); });
+    router.On(options, [this] { ShowOptions(); });
+    QObject::connect(capture, &CCaptureRun::NothingToCapture, &frame,
+                     [this] { frame.Tell(Text(StringId::captureNothing)); });
+    QObject::connect(capture, &CCaptureRun::Ended, &frame, [this](const std::string& path) {
+        if (path.empty())
+            frame.Status()->showMessage(Text(StringId::captureNotSaved), 10'000);
+        else
+            frame.SendMessage(app::FrameMessage::refreshList);
+    });
+}
+
+void CToolCommands::RegisterSuite(CCommandRouter& router)
+{
+    using enum app::CommandId;
+    router.On(backToTaskPanel, [this] {
+        if (!frame.Application().ShowLauncher())
+            frame.Tell(Text(StringId::suiteNoLauncher));
+    });
+    router.On(mms, [this] { frame.Tell(Text(StringId::suiteLaunchMms)); });
+    router.On(sms, [this] { frame.Tell(Text(StringId::suiteLaunchSms)); });
+    // The library that keeps contacts and calendar is no part of this program, so it never starts.
+    router.On(pim, [this] {
+        frame.Tell(Text(StringId::suitePimError) + QLatin1Char('\n') + Text(StringId::suitePimWhy));
+    });
+}
+
+void CToolCommands::TrimVideo()
+{
+    switch (app::StartVideoTrim(frame.Application().ProgramFolder(), frame.winId())) {
+    case app::StartedProgram::notWritten:
+        frame.Tell(Text(StringId::suiteTrimNotWritten, Shown(platform::Os().files->LastError())));
+        break;
+    case app::StartedProgram::missing:
+        frame.Tell(Text(StringId::suiteNoTrimmer));
+        break;
+    default:
+        break;
+    }
+}
+
+void CToolCommands::StartCapture()
+{
+    const std::string folder = frame.LeftView()->Folder();
+    if (folder.empty())
+        frame.Tell(Text(StringId::captureNoFolder));
+    else
+        capture->Start(folder, captureWait);
+}
+
+void CToolCommands::SelectSource()
+{
+    auto* dialog = new CSelectSourceDialog(&frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &CSelectSourceDialog::Failed, &frame, [this] {
+        frame.Tell(Text(StringId::sourceCannotOpen) + QLatin1Char('\n') +
+                   Text(StringId::sourceCannotOpenWhy));
+    });
+    dialog->open();
+}
+
+void CToolCommands::ShowOptions()
+{
+    auto* dialog = new COptionsDialog(frame.Application().ProgramFolder(), &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 }  // namespace ui

@@ -13,6 +13,8 @@ CViewCommands::CViewCommands(CCommandRouter& router, CMainFrame& frame)
     using enum app::CommandId;
     for (const app::CommandId id : ListCommands())
         router.On(id, [&frame, id] { RunListCommand(id, *frame.List()); });
+    for (const app::CommandId bar : {toolBar, taskPanel})
+        router.On(bar, [&frame, bar] { frame.Bars().Show(bar, frame.Menu()->Action(bar)->isChecked()); });
     router.On(refresh, [&frame] {
         frame.LeftView()->Tree()->Refresh();
         frame.List()->Refresh();

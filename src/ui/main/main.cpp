@@ -4,8 +4,12 @@
 #include "app/data_folders.h"
 #include "app/kelvo_app.h"
 #include "platform/services.h"
+#include "platform_linux/desktop/linux_devices.h"
 #include "platform_linux/desktop/linux_messages.h"
+#include "platform_linux/desktop/linux_screen.h"
+#include "platform_linux/linux_serial_ports.h"
 #include "platform_linux/services.h"
+#include "suite/acquire/sane_sources.h"
 #include "suite/image/image_library.h"
 #include "suite/utility/utility_library.h"
 #include "ui/command_line.h"
@@ -21,6 +25,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QThreadPool>
 
 #include <cstdio>
 #include <filesystem>
@@ -124,7 +129,17 @@ int RunInstance(Program& program)
             }
         }
     };
+    platform_linux::CLinuxDevices devices;
+    platform_linux::CLinuxScreen screen;
+    platform_linux::CLinuxSerialPorts serialPorts;
+    suite::CSaneSources sources;
+    platform::Os().devices = &devices;
+    platform::Os().screen = &screen;
+    platform::Os().serialPorts = &serialPorts;
+    platform::Os().pictureSources = &sources;
     const int status = RunWindow(program);
+    // What they were asked on other threads is waited for.
+    QThreadPool::globalInstance()->waitForDone();
     program.application.ExitInstance();
     return status;
 }
