@@ -8,10 +8,12 @@
 #include "ui/background.h"
 #include "ui/controls/skin.h"
 #include "ui/display_text.h"
+#include "ui/frame/waiting_question.h"
 #include "ui/list/list_commands.h"
 #include "ui/printer_defaults.h"
 #include "ui/theme.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -149,6 +151,13 @@ void CMainFrame::keyPressEvent(QKeyEvent* event)
     else if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::ShiftModifier ||
              !contextMenus->OpenByKey())
         QMainWindow::keyPressEvent(event);
+}
+
+void CMainFrame::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(isEnabled());
+    if (!isEnabled())
+        AskAboutWaiting(*this);
 }
 
 void CMainFrame::SwitchPane()

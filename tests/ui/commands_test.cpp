@@ -149,6 +149,12 @@ TEST_F(CommandsTest, PrintingDisablesTheWindowOnlyOnceTheProgramRunsAndUntilItsE
     EXPECT_FALSE(frame->isEnabled());
     frame->State().OnAppletClose(3);
     EXPECT_TRUE(frame->isEnabled());
+
+    // One that never says that it ended.
+    Run(CommandId::print);
+    EXPECT_FALSE(frame->close());
+    frame->findChild<QMessageBox*>()->buttons().front()->click();
+    EXPECT_TRUE(frame->isEnabled() && frame->isVisible());
 }
 
 TEST_F(CommandsTest, TheSuitesButtonsSayWhatTheyLaunch)

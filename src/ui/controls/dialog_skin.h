@@ -7,7 +7,7 @@
 // rectangle is the element's least size. Where the file places every direct child of the window, no two of
 // them overlap and every text fits its place in the present language and font, the window takes exactly those
 // places (from the right in a right-to-left language) and a fixed size; in any other case the Qt layout
-// stands. docs/formats/skin.md has the keys, docs/decisions/0009-skin.md the reasons.
+// stands. docs/formats/skin.md has the keys, docs/decisions/0012-skin.md the reasons.
 #pragma once
 
 #include "app/skin_layout.h"

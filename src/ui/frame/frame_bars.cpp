@@ -30,7 +30,7 @@ struct Tool {
 };
 
 constexpr Tool kToolBar[] = {
-    {CommandId::slideShow, "slide_show.png", "slide-show"},
+    {CommandId::slideShow, "slide show.png", "slide-show"},
     {CommandId::print, "print.png", "print"},
     {CommandId::eMail, "email.png", "mail"},
     {kLine},
@@ -38,15 +38,15 @@ constexpr Tool kToolBar[] = {
     {CommandId::photoTrim, "photo_trim.png", "trim"},
     {CommandId::whiteboardCleanUp, "whiteboard.png", "whiteboard"},
     {kLine},
-    {CommandId::screenCapture, "screen_capture.png", "capture"},
-    {CommandId::selectSource, "select_source.png", "scanner"},
+    {CommandId::screenCapture, "capture.png", "capture"},
+    {CommandId::selectSource, "acquire.png", "scanner"},
     {kLine},
     {CommandId::search, "", "search"},
     {CommandId::properties, "properties.png", "properties"},
 };
 
 constexpr Tool kTaskPanel[] = {
-    {CommandId::backToTaskPanel, "task_panel.png", "back"},
+    {CommandId::backToTaskPanel, "task panel.png", "back"},
     {kLine},
     {CommandId::uploadToPc, "upload.png", "upload"},
     {CommandId::downloadToMobile, "download.png", "download"},
@@ -54,8 +54,8 @@ constexpr Tool kTaskPanel[] = {
     {CommandId::acquire, "acquire.png", "scanner"},
     {kLine},
     {CommandId::messageCenter, "message.png", "message"},
-    {CommandId::mms, "mms.png", "message"},
-    {CommandId::sms, "sms.png", "message"},
+    {CommandId::mms, "message.png", "message"},
+    {CommandId::sms, "message.png", "message"},
     {CommandId::pim, "pim.png", "contacts"},
 };
 
@@ -92,7 +92,7 @@ QToolBar* CFrameBars::Make(CommandId bar, QMainWindow& window)
     made->setObjectName(QString::fromLatin1(KeyOf(bar)));
     made->setAccessibleName(made->windowTitle());
     made->setMovable(false);
-    made->setIconSize({16, 16});
+    made->setIconSize({20, 20});
     made->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (const Tool& tool : ToolsOf(bar)) {
         if (tool.id == kLine) {
