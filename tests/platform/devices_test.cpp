@@ -1,18 +1,12 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Volumes that come and go, as a stand-in for UDisks2 tells it on a bus of the test's own.
+#include "platform/mock_bus.h"
 #include "platform_linux/desktop/linux_devices.h"
 #include "support/temp_folder.h"
 
-#include <QCoreApplication>
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QElapsedTimer>
-#include <QProcess>
-
-#include <gmock/gmock.h>
 
 namespace
 {
@@ -23,87 +17,34 @@ using platform_linux::CLinuxDevices;
 const QString kService = QStringLiteral("org.freedesktop.UDisks2");
 const QString kRoot = QStringLiteral("/org/freedesktop/UDisks2");
 
-struct MockMethod {
-    QString name, in, out, code;
-};
-QDBusArgument& operator<<(QDBusArgument& to, const MockMethod& method)
-{
-    to.beginStructure();
-    to << method.name << method.in << method.out << method.code;
-    to.endStructure();
-    return to;
-}
-const QDBusArgument& operator>>(const QDBusArgument& from, MockMethod&)
-{
-    return from;
-}
-
 QVariantMap MountedAt(const char* path)
 {
     const QList<QByteArray> points = *path ? QList<QByteArray>{QByteArray(path) + '\0'} : QList<QByteArray>{};
     return {{QStringLiteral("MountPoints"), QVariant::fromValue(points)}};
 }
 
-class Devices : public testing::Test
+class Devices : public tests::MockBus
 {
 protected:
-    int argc = 1;
-    char name[5] = "test";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
     support::CTempFolder folder;
-    QProcess daemon;
-    QProcess mock;
-    QString address;
     std::vector<platform::DeviceChange> told;
 
     void SetUp() override
     {
+        MockBus::SetUp();
         qDBusRegisterMetaType<QList<QByteArray>>();
-        qDBusRegisterMetaType<MockMethod>();
-        qDBusRegisterMetaType<QList<MockMethod>>();
-        daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address=1"});
-        ASSERT_TRUE(daemon.waitForReadyRead(10'000)) << "dbus-daemon does not start";
-        address = QString::fromUtf8(daemon.readLine()).trimmed();
-        QDBusConnection::connectToBus(address, "devices");
-    }
-    void TearDown() override
-    {
-        QDBusConnection::disconnectFromBus("devices");
-        for (QProcess* process : {&mock, &daemon}) {
-            process->kill();
-            process->waitForFinished();
-        }
-    }
-    static QDBusConnection Bus() { return QDBusConnection("devices"); }
-    static bool RunUntil(const std::function<bool()>& done)
-    {
-        QElapsedTimer clock;
-        for (clock.start(); !done() && clock.elapsed() < 20'000;)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
-        return done();
     }
     void StartMock()
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("DBUS_SYSTEM_BUS_ADDRESS", address);
-        mock.setProcessEnvironment(environment);
-        mock.start("/usr/bin/python3", {"-m", "dbusmock", "--system", "--is-object-manager", kService, kRoot,
-                               "org.freedesktop.UDisks2.Manager"});
-        ASSERT_TRUE(RunUntil([] { return Bus().interface()->isServiceRegistered(kService).value(); }))
-            << mock.readAllStandardError().toStdString();
+        MockBus::StartMock({"--is-object-manager", kService, kRoot, "org.freedesktop.UDisks2.Manager"});
     }
     static void Call(const QString& path, const QString& method, const QVariantList& arguments)
     {
-        QDBusMessage call =
-            QDBusMessage::createMethodCall(kService, path, "org.freedesktop.DBus.Mock", method);
-        call.setArguments(arguments);
-        const QDBusMessage answer = Bus().call(call);
-        ASSERT_EQ(answer.type(), QDBusMessage::ReplyMessage) << answer.errorMessage().toStdString();
+        MockBus::Call(kService, path, method, arguments);
     }
     static void AddObject(const QString& path, const QString& interface, const QVariantMap& properties)
     {
-        Call(kRoot, "AddObject", {path, interface, properties, QVariant::fromValue(QList<MockMethod>())});
+        Call(kRoot, "AddObject", {path, interface, properties, NoMethods()});
     }
     static void AddDisk(const QString& name, const char* mountPoint, bool optical)
     {
@@ -158,6 +99,10 @@ TEST_F(Devices, CardsArriveAndLeaveAndADiscIsAChangeOfMedia)
     Expect(DeviceEvent::removed, "/media/card", 0, 2);
     // Pulled out while mounted.
     Call(kRoot, "RemoveObject", {kRoot + "/block_devices/sr0"});
+    Call(kRoot, "EmitSignal",
+         {"org.freedesktop.DBus.ObjectManager", "InterfacesRemoved", "oas",
+          QVariantList{QVariant::fromValue(QDBusObjectPath(kRoot + "/block_devices/sr0")),
+                       QStringList{kService + ".Filesystem"}}});
     Expect(DeviceEvent::removed, "/media/disc", platform::kMediaChange, 2);
 }
 

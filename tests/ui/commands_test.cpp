@@ -12,7 +12,9 @@
 #include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QThreadPool>
 
 #include <gmock/gmock.h>

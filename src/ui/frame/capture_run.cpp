@@ -25,6 +25,7 @@ void CCaptureRun::Start(const std::string& targetFolder, int waitMilliseconds)
     folder = targetFolder;
     // The program goes on although none of its windows is to be seen.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    focus = window.focusWidget();
     window.hide();
     QTimer::singleShot(waitMilliseconds, this, &CCaptureRun::Take);
 }
@@ -52,6 +53,8 @@ void CCaptureRun::End(const std::string& path)
     running = false;
     window.show();
     window.activateWindow();
+    if (focus)
+        focus->setFocus();
     QGuiApplication::setQuitOnLastWindowClosed(true);
     Q_EMIT Ended(path);
 }

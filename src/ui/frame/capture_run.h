@@ -6,6 +6,7 @@
 #include "platform/screen.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <string>
@@ -38,6 +39,7 @@ private:
     void End(const std::string& path);
 
     QMainWindow& window;
+    QPointer<QWidget> focus;  // of before
     std::string folder;
     bool running = false;
 };

@@ -92,11 +92,13 @@ QToolBar* CFrameBars::Make(CommandId bar, QMainWindow& window)
     made->setObjectName(QString::fromLatin1(KeyOf(bar)));
     made->setAccessibleName(made->windowTitle());
     made->setMovable(false);
-    made->setIconSize({20, 20});
+    // Room beside the pictures, which are 20 wide.
+    made->setIconSize({24, 20});
     made->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (const Tool& tool : ToolsOf(bar)) {
         if (tool.id == kLine) {
-            made->addSeparator();
+            if (!made->actions().isEmpty() && !made->actions().constLast()->isSeparator())
+                made->addSeparator();
             continue;
         }
         const bool works = app::FindCommand(tool.id).missing == StringId::none;
