@@ -74,7 +74,7 @@ constexpr std::array kCommands = {
     Command{whiteboardCleanUp, MenuId::tools, commandWhiteboardCleanUp, "", Mark::none, false,
             missingEditors},
     Command{videoTrim, MenuId::tools, commandVideoTrim, ""},
-    Command{slideShow, MenuId::tools, commandSlideShow, "", Mark::none, true, missingSlideShow},
+    Command{slideShow, MenuId::tools, commandSlideShow, "", Mark::none, true},
     Command{screenSaver, MenuId::tools, commandScreenSaver, "", Mark::none, false, missingScreenSaver},
     Command{screenCapture, MenuId::tools, commandScreenCapture, ""},
     Command{changeTimeStamp, MenuId::tools, commandChangeTimeStamp, "", Mark::none, true, missingTimeStamps},

@@ -5,6 +5,7 @@
 #include "ui/dialogs/options_dialog.h"
 #include "ui/dialogs/properties_dialog.h"
 #include "ui/dialogs/select_source_dialog.h"
+#include "ui/viewer/slide_show.h"
 #include "ui/words.h"
 #include "window_test_base.h"
 
@@ -157,6 +158,34 @@ TEST_F(CommandsTest, PrintingDisablesTheWindowOnlyOnceTheProgramRunsAndUntilItsE
     EXPECT_FALSE(frame->close());
     frame->findChild<QMessageBox*>()->buttons().front()->click();
     EXPECT_TRUE(frame->isEnabled() && frame->isVisible());
+}
+
+TEST_F(CommandsTest, ASlideShowIsOfThePicturesSelectedElseOfTheFolderAndNeverOfClips)
+{
+    const auto due = [&] {
+        Run(CommandId::slideShow);
+        auto* show = frame->findChild<ui::CSlideShow*>();
+        const std::string path = show ? show->Due() : std::string();
+        delete show;
+        return path;
+    };
+    Open();
+    EXPECT_EQ(due(), "");
+    EXPECT_THAT(TakeMessage(), testing::HasSubstr("no pictures here"));
+    for (const char* name : {"a.jpg", "b.jpg", "c.jpg", "d.mp4", "e.mpg"})
+        Add(name);
+    Open();
+    List().Refresh();
+    Settle();
+
+    EXPECT_EQ(due(), folder + "/a.jpg");
+    Select({"b.jpg"});
+    EXPECT_EQ(due(), folder + "/b.jpg");
+    Select({"c.jpg", "e.mpg"});
+    EXPECT_EQ(due(), folder + "/c.jpg");
+    Select({"a.jpg", "d.mp4"});
+    EXPECT_EQ(due(), "");
+    EXPECT_EQ(TakeMessage(), "Warning|Don't support AVI and ASF format.");
 }
 
 TEST_F(CommandsTest, TheSuitesButtonsSayWhatTheyLaunch)

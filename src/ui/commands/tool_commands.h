@@ -25,6 +25,7 @@ public:
 private:
     void RegisterSuite(CCommandRouter& router);
     void TrimVideo();
+    void ShowSlides();
     void StartCapture();
     void SelectSource();
     void ShowOptions();
