@@ -3,16 +3,12 @@
 #include "ui/commands/tool_commands.h"
 
 #include "browser/file_names.h"
-#include "browser/media_types.h"
 #include "platform/file_system.h"
 #include "ui/dialogs/options_dialog.h"
 #include "ui/dialogs/select_source_dialog.h"
 #include "ui/display_text.h"
 #include "ui/main_frame.h"
-#include "ui/viewer/slide_show.h"
 #include "ui/words.h"
-
-#include <algorithm>
 
 namespace ui
 {
@@ -66,24 +62,11 @@ void CToolCommands::TrimVideo()
     }
 }
 
-// Of the pictures selected; with one or none, of all in the list, beginning with that one.
 void CToolCommands::ShowSlides()
 {
-    std::vector<std::string> paths = frame.SelectedPaths();
-    if (app::HasClips(paths))
-        return frame.Tell(Text(StringId::suiteNoClips), Text(StringId::suiteWarning));
-    const std::string first = paths.empty() ? std::string() : paths.front();
-    const browser::CMediaFileList& list = frame.List()->List();
-    if (paths.size() < 2) {
-        paths.clear();
-        for (int row = 0; row < list.Count(); ++row)
-            paths.push_back(list.PathOf(row));
-    }
-    std::erase_if(paths, [](const std::string& path) {
-        return (browser::TypeBits(browser::FileName(path)) & browser::kTypePicture) == 0;
-    });
-    const bool begins = std::ranges::find(paths, first) != paths.end();
-    if (!StartSlideShow(std::move(paths), begins ? first : std::string(), &frame))
+    if (app::HasClips(frame.SelectedPaths()))
+        frame.Tell(Text(StringId::suiteNoClips), Text(StringId::suiteWarning));
+    else if (!frame.Pages()->ShowSlides())
         frame.Tell(Text(StringId::suiteNoShow));
 }
 

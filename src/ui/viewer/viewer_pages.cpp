@@ -80,7 +80,8 @@ CSlideShow* CViewerPages::ShowSlides()
     std::vector<std::string> all;
     std::vector<std::string> chosen;
     for (int row = 0; row < items.Count(); ++row) {
-        if (!browser::IsPicture(items.Item(row)))
+        // A clip's one frame makes no slide.
+        if (!browser::IsPicture(items.Item(row)) || (items.Item(row).types & browser::kTypeVideo) != 0)
             continue;
         all.push_back(items.PathOf(row));
         if (selection.isSelected(list->View()->model()->index(row, 0)))
