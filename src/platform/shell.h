@@ -3,6 +3,7 @@
 // CShell and CMessages: the desktop around the program.
 #pragma once
 
+#include "platform/file_system.h"
 #include "platform/types.h"
 
 #include <functional>
@@ -15,13 +16,64 @@ namespace platform
 
 enum class KnownFolder { localAppData, documents, commonAppData, windows, home };
 
-enum class FileOperation { copy, move, rename, remove, trash };
+enum class FileOperation {
+    copy,
+    move,
+    rename,
+    remove,
+    removeEmpty,  // a folder that holds nothing
+    trash,
+    restore,  // the way back from the trash
+};
 
 struct FileOperationRequest {
     FileOperation operation = FileOperation::copy;
     std::vector<std::string> sources;
     std::string target;      // copy, move: the folder that receives the sources; rename: the new path
     bool filesOnly = false;  // copy: sub-folders of a source folder are left out
+};
+
+// Why something was left undone.
+enum class FileFailure {
+    none,
+    cancelled,
+    missing,       // the source is gone, or the folder that is to receive it
+    nameTaken,     // something of the new name is there
+    itself,        // the new path names the source itself
+    intoItself,    // a folder cannot receive itself
+    noPermission,  // the user may not, or the medium is write-protected
+    noRoom,
+    badName,  // the file system takes no such name
+    noTrash,
+    changed,  // it is no longer what it was
+    other,
+};
+
+struct FileProblem {
+    std::string path;
+    FileFailure failure = FileFailure::none;
+    std::string reason;  // in plain words, as CFileSystem::LastError
+};
+
+// One file or folder, and what is to happen to it. Paths name the entry itself: links are not followed.
+struct FileStep {
+    FileOperation operation = FileOperation::copy;  // any but `move`: rename reaches every folder
+    std::string source;                             // restore: its place in the trash
+    std::string target;                             // copy, rename, restore: the new path, a free name
+    // Called often with the bytes done and those to do (both 0 where bytes do not matter); false stops.
+    std::function<bool(std::uint64_t done, std::uint64_t all)> progress;
+};
+
+struct FileStepResult {
+    bool done = false;   // all of it
+    std::string target;  // where the source, or what there is of its copy, is now; empty for nowhere
+    std::vector<FileProblem> problems;  // what was left undone, the first hundred of them
+};
+
+// What a path names, links not followed.
+struct EntryFacts {
+    FileStamp stamp;
+    bool isFolder = false;
 };
 
 // A mounted file system that holds files.
@@ -40,6 +92,11 @@ public:
     // True when all of it was done. An existing target is never overwritten: that source fails. A copy that
     // fails half-way leaves no half-written file.
     virtual bool SHFileOperation(const FileOperationRequest& request) = 0;
+    // Does one step. A name that is taken stays as it is, a file is copied whole or not at all, and a move
+    // between file systems removes the source only when all of it is on the other medium. A folder that was
+    // copied in part stays so. May be called on any thread.
+    virtual FileStepResult DoFileStep(const FileStep& step) = 0;
+    virtual std::optional<EntryFacts> FindEntry(const std::string& path) = 0;
     // Starts a program detached from this one: `command` is a program and its arguments, divided by blanks,
     // with double quotes around those that hold blanks. False when it cannot be started.
     virtual bool WinExec(const std::string& command) = 0;

@@ -19,44 +19,126 @@ namespace platform_linux
 namespace
 {
 
-bool CopyLink(const std::string& source, const std::string& target)
-{
-    char text[PATH_MAX];
-    const ssize_t length = readlink(Native(source), text, sizeof text);
-    if (length < 0 || length == sizeof text)
-        return Fail(length < 0 ? errno : ENAMETOOLONG);
-    return symlink(std::string(text, static_cast<std::size_t>(length)).c_str(), Native(target)) == 0 ||
-           Fail();
-}
-
-// Makes the folder unless one is there.
-bool HaveFolder(const std::string& path, mode_t mode)
+bool IsThere(const std::string& path)
 {
     struct stat facts {
     };
-    if (mkdir(Native(path), mode | 0700) == 0)
-        return true;
-    return (errno == EEXIST && stat(Native(path), &facts) == 0 && S_ISDIR(facts.st_mode)) || Fail(EEXIST);
+    return lstat(Native(path), &facts) == 0;
 }
 
-bool CopyFolder(const std::string& source, const std::string& target, mode_t mode, const CopyRules& rules)
+bool LeadsToFile(const std::string& link)
 {
-    const DirHandle folder = OpenFolder(AT_FDCWD, source, O_NOFOLLOW);
-    if (!folder || !HaveFolder(target, mode))
-        return false;
-    bool all = true;
-    while (const dirent* entry = NextEntry(folder.get())) {
-        const std::string from = Join(source, entry->d_name);
+    struct stat end {
+    };
+    return stat(Native(link), &end) == 0 && S_ISREG(end.st_mode);
+}
+
+// One copy of a tree: the rules and the log that all of its parts share.
+class CTreeCopy
+{
+public:
+    CTreeCopy(const CopyRules& copyRules, COperationLog& operationLog) : rules(copyRules), log(operationLog)
+    {
+    }
+
+    bool Copy(const std::string& source, const std::string& target, ExistingFolder existing)
+    {
         struct stat facts {
         };
-        if (rules.filesOnly && lstat(Native(from), &facts) == 0 && S_ISDIR(facts.st_mode))
-            continue;
-        all = CopyTree(from, Join(target, entry->d_name), rules) && all;
+        if (!log.Advance())
+            return false;
+        if (lstat(Native(source), &facts) != 0)
+            return Fail() || log.Failed(source);
+        if (S_ISDIR(facts.st_mode))
+            return CopyFolder(source, target, facts, existing);
+        const bool done = S_ISREG(facts.st_mode)   ? CopyFile(source, target)
+                          : S_ISLNK(facts.st_mode) ? CopyLink(source, target)
+                                                   : Fail(ENOTSUP);
+        return done || log.IsCancelled() || log.Failed(source);
     }
-    return all;
+
+private:
+    bool CopyFile(const std::string& source, const std::string& target)
+    {
+        return CopyRegular(source, target, ExistingTarget::fail, rules.durability,
+                           [this](std::uint64_t bytes) { return log.Advance(bytes); });
+    }
+
+    bool CopyLink(const std::string& source, const std::string& target)
+    {
+        char text[PATH_MAX];
+        if (rules.links == LinkCopy::content && LeadsToFile(source))
+            return CopyFile(source, target);
+        const ssize_t length = readlink(Native(source), text, sizeof text);
+        if (length < 0 || length == sizeof text)
+            return Fail(length < 0 ? errno : ENAMETOOLONG);
+        if (symlink(std::string(text, static_cast<std::size_t>(length)).c_str(), Native(target)) == 0)
+            return true;
+        // A memory card's file system knows no links.
+        return errno == EPERM && LeadsToFile(source) ? CopyFile(source, target) : Fail();
+    }
+
+    bool MakeFolder(const std::string& path, mode_t mode, ExistingFolder existing)
+    {
+        struct stat facts {
+        };
+        if (mkdir(Native(path), mode | 0700) == 0)
+            return true;
+        return (errno == EEXIST && existing == ExistingFolder::merge && stat(Native(path), &facts) == 0 &&
+                S_ISDIR(facts.st_mode)) ||
+               Fail();
+    }
+
+    bool CopyFolder(const std::string& source, const std::string& target, const struct stat& facts,
+                    ExistingFolder existing)
+    {
+        if (IsInside(target, source))
+            return Fail(EINVAL) || log.Failed(source);
+        const DirHandle folder = OpenFolder(AT_FDCWD, source, O_NOFOLLOW);
+        if (!folder || !MakeFolder(target, facts.st_mode & 0777, existing))
+            return log.Failed(source);
+        bool all = true;
+        while (const dirent* entry = NextEntry(folder.get())) {
+            const std::string from = Join(source, entry->d_name);
+            struct stat inner {
+            };
+            if (rules.filesOnly && lstat(Native(from), &inner) == 0 && S_ISDIR(inner.st_mode))
+                continue;
+            all = Copy(from, Join(target, entry->d_name), rules.existing) && all;
+            if (log.IsCancelled())
+                return Fail(ECANCELED);
+        }
+        return all;
+    }
+
+    const CopyRules& rules;
+    COperationLog& log;
+};
+
+void SyncFileSystem(const std::string& path)
+{
+    const CHandle folder(open(ParentOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.IsOpen())
+        (void)syncfs(folder.Get());
 }
 
-// Whether a copy of the folder to `target` would find itself among what it copies.
+bool MoveByCopy(const std::string& source, const std::string& target, COperationLog& log)
+{
+    if (IsThere(target))
+        return Fail(EEXIST);
+    log.Measure(source);
+    const CopyRules rules{false, LinkCopy::verbatim, ExistingFolder::fail, Durability::later};
+    if (CopyTree(source, target, rules, &log)) {
+        SyncFileSystem(target);
+        return RemoveTree(AT_FDCWD, source, &log);
+    }
+    const int reason = LastFailure();
+    (void)RemoveTree(AT_FDCWD, target);
+    return Fail(reason);
+}
+
+}  // namespace
+
 bool IsInside(const std::string& target, const std::string& folder)
 {
     CLinuxFileSystem files;
@@ -65,45 +147,29 @@ bool IsInside(const std::string& target, const std::string& folder)
     return place && source && (*place == *source || IsBelow(*place, *source));
 }
 
-bool MoveByCopy(const std::string& source, const std::string& target)
+bool IsSameEntry(const std::string& left, const std::string& right)
 {
-    struct stat facts {
+    struct stat one {
     };
-    if (lstat(Native(target), &facts) == 0)
-        return Fail(EEXIST);
-    if (CopyTree(source, target, {false, LinkCopy::verbatim}))
-        return RemoveTree(AT_FDCWD, source);
-    const int reason = LastFailure();
-    (void)RemoveTree(AT_FDCWD, target);
-    return Fail(reason);
+    struct stat other {
+    };
+    return NameOf(left) == NameOf(right) && IsThere(left) && stat(ParentOf(left).c_str(), &one) == 0 &&
+           stat(ParentOf(right).c_str(), &other) == 0 && one.st_dev == other.st_dev &&
+           one.st_ino == other.st_ino;
 }
 
-}  // namespace
-
-bool CopyTree(const std::string& source, const std::string& target, const CopyRules& rules)
+bool CopyTree(const std::string& source, const std::string& target, const CopyRules& rules,
+              COperationLog* log)
 {
-    struct stat facts {
-    };
-    if (lstat(Native(source), &facts) != 0)
-        return Fail();
-    if (S_ISLNK(facts.st_mode)) {
-        struct stat end {
-        };
-        const bool isFile = stat(Native(source), &end) == 0 && S_ISREG(end.st_mode);
-        return isFile && rules.links == LinkCopy::content ? CopyRegular(source, target, ExistingTarget::fail)
-                                                          : CopyLink(source, target);
-    }
-    if (S_ISREG(facts.st_mode))
-        return CopyRegular(source, target, ExistingTarget::fail);
-    if (!S_ISDIR(facts.st_mode) || IsInside(target, source))
-        return Fail(EINVAL);
-    return CopyFolder(source, target, facts.st_mode & 0777, rules);
+    COperationLog own;
+    return CTreeCopy(rules, log ? *log : own).Copy(source, target, rules.existing);
 }
 
-bool MoveTree(const std::string& source, const std::string& target)
+bool MoveTree(const std::string& source, const std::string& target, COperationLog* log)
 {
+    COperationLog own;
     return RenameNoReplace(AT_FDCWD, source, AT_FDCWD, target) ||
-           (LastFailure() == EXDEV && MoveByCopy(source, target));
+           (LastFailure() == EXDEV && MoveByCopy(source, target, log ? *log : own));
 }
 
 }  // namespace platform_linux

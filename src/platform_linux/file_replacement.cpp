@@ -154,11 +154,14 @@ bool CFileReplacement::PutInPlace()
     return renameat(at, temporary.c_str(), at, name.c_str()) == 0 || Fail();
 }
 
-bool CFileReplacement::Commit()
+bool CFileReplacement::Commit(Durability durability)
 {
-    if (!SyncFile(file.Get()) || !PutInPlace())
+    const bool sync = durability == Durability::beforeNamed;
+    if ((sync && !SyncFile(file.Get())) || !PutInPlace())
         return false;
     temporary.clear();
+    if (!sync)
+        return true;
     const CHandle listing(openat(folder.Get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // The new file is in place now; a folder that cannot be synced does not undo that.
     if (listing.IsOpen())
@@ -199,24 +202,22 @@ bool RenameNoReplace(int fromFolder, const std::string& from, int toFolder, cons
     return renameat(fromFolder, Native(from), toFolder, Native(to)) == 0 || Fail();
 }
 
-bool CopyBytes(int from, int to)
+namespace
 {
-    if (ioctl(to, FICLONE, from) == 0)
-        return true;
-    struct stat source {
-    };
-    struct stat target {
-    };
-    if (fstat(from, &source) != 0 || fstat(to, &target) != 0)
-        return Fail();
-    // Asked for at once, the room lies together, and a disk too full is known before anything is written.
-    if (fallocate(to, FALLOC_FL_KEEP_SIZE, 0, source.st_size) != 0 && errno == ENOSPC)
-        return Fail();
-    constexpr std::size_t kPiece = 64 << 20;
-    while (source.st_dev == target.st_dev && copy_file_range(from, nullptr, to, nullptr, kPiece, 0) > 0) {
-    }
-    // Whatever ended that - the end of the file, or a file system that cannot - what is left goes through
-    // here, and a real failure shows here again.
+
+// The part of a copy that the kernel can do by itself; false only when it was stopped.
+bool CopyInKernel(int from, int to, const CopyProgress& progress)
+{
+    constexpr std::size_t kPiece = 16 << 20;
+    ssize_t count = 0;
+    while ((count = copy_file_range(from, nullptr, to, nullptr, kPiece, 0)) > 0)
+        if (progress && !progress(static_cast<std::uint64_t>(count)))
+            return Fail(ECANCELED);
+    return true;
+}
+
+bool CopyThroughBuffer(int from, int to, const CopyProgress& progress)
+{
     const auto buffer = std::make_unique<std::array<std::byte, 256 * 1024>>();
     off_t done = lseek(to, 0, SEEK_CUR);
     for (CEarlyWriteBack writeBack(to, done);;) {
@@ -227,12 +228,36 @@ bool CopyBytes(int from, int to)
             return count == 0 || Fail();
         if (!WriteAll(to, std::span(buffer->data(), static_cast<std::size_t>(count))))
             return false;
+        if (progress && !progress(static_cast<std::uint64_t>(count)))
+            return Fail(ECANCELED);
         done += count;
         writeBack.Written(done);
     }
 }
 
-bool CopyRegular(const std::string& source, const std::string& target, ExistingTarget existing)
+}  // namespace
+
+bool CopyBytes(int from, int to, const CopyProgress& progress)
+{
+    struct stat source {
+    };
+    struct stat target {
+    };
+    if (fstat(from, &source) != 0 || fstat(to, &target) != 0)
+        return Fail();
+    if (ioctl(to, FICLONE, from) == 0)
+        return !progress || progress(static_cast<std::uint64_t>(source.st_size)) || Fail(ECANCELED);
+    // Asked for at once, the room lies together, and a disk too full is known before anything is written.
+    if (fallocate(to, FALLOC_FL_KEEP_SIZE, 0, source.st_size) != 0 && errno == ENOSPC)
+        return Fail();
+    // Whatever ends the kernel's part - the end of the file, or a file system that cannot - what is left
+    // goes through the buffer, and a real failure shows there again.
+    return (source.st_dev != target.st_dev || CopyInKernel(from, to, progress)) &&
+           CopyThroughBuffer(from, to, progress);
+}
+
+bool CopyRegular(const std::string& source, const std::string& target, ExistingTarget existing,
+                 Durability durability, const CopyProgress& progress)
 {
     const CHandle from = OpenRegular(source, platform::OpenMode::read);
     struct stat facts {
@@ -240,9 +265,9 @@ bool CopyRegular(const std::string& source, const std::string& target, ExistingT
     if (!from.IsOpen() || fstat(from.Get(), &facts) != 0)
         return Fail();
     const auto replacement = CFileReplacement::Start(target, facts.st_mode & 0777, existing);
-    if (!replacement || !CopyBytes(from.Get(), replacement->Get()))
+    if (!replacement || !CopyBytes(from.Get(), replacement->Get(), progress))
         return false;
-    return SetModificationTime(replacement->Get(), facts.st_mtim) && replacement->Commit();
+    return SetModificationTime(replacement->Get(), facts.st_mtim) && replacement->Commit(durability);
 }
 
 }  // namespace platform_linux

@@ -5,11 +5,13 @@
 // Where the file system can, the file has no name at all before that, so that not even a kill leaves
 // anything behind; elsewhere it stands beside the target under a short hidden name (".kelvo-" and twelve hex
 // digits) and the destructor removes it. Either way the target holds its old bytes until Commit puts the new
-// ones, already on the medium, in their place in one step.
+// ones, already on the medium unless told otherwise, in their place in one step.
 #pragma once
 
 #include "platform_linux/handle.h"
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <sys/types.h>
@@ -18,6 +20,12 @@ namespace platform_linux
 {
 
 enum class ExistingTarget { replace, fail };
+
+// When a new file's bytes reach the medium: before it takes its name, or when the system gets to it.
+enum class Durability { beforeNamed, later };
+
+// Told the bytes copied since the last call; false stops the copy, which then fails with ECANCELED.
+using CopyProgress = std::function<bool(std::uint64_t bytes)>;
 
 class CFileReplacement
 {
@@ -32,7 +40,7 @@ public:
     CFileReplacement& operator=(const CFileReplacement&) = delete;
 
     int Get() const { return file.Get(); }
-    bool Commit();
+    bool Commit(Durability durability = Durability::beforeNamed);
 
 private:
     CFileReplacement() = default;
@@ -56,8 +64,9 @@ bool RenameNoReplace(int fromFolder, const std::string& from, int toFolder, cons
 
 // Copies from the current positions to the end of `from`: shared blocks where the file system can, else
 // within the kernel, else through a buffer.
-bool CopyBytes(int from, int to);
+bool CopyBytes(int from, int to, const CopyProgress& progress = {});
 // Copies bytes, permission bits and modification time of a regular file.
-bool CopyRegular(const std::string& source, const std::string& target, ExistingTarget existing);
+bool CopyRegular(const std::string& source, const std::string& target, ExistingTarget existing,
+                 Durability durability = Durability::beforeNamed, const CopyProgress& progress = {});
 
 }  // namespace platform_linux

@@ -5,6 +5,7 @@
 #include "platform_linux/base_folders.h"
 #include "platform_linux/failure.h"
 #include "platform_linux/file_operations.h"
+#include "platform_linux/file_steps.h"
 #include "platform_linux/launch.h"
 #include "platform_linux/paths.h"
 #include "platform_linux/trash.h"
@@ -13,6 +14,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform_linux
 {
@@ -44,15 +46,19 @@ bool OperateOn(const std::string& source, const platform::FileOperationRequest& 
         return Fail(EINVAL);
     switch (request.operation) {
     case platform::FileOperation::copy:
-        return CopyTree(source, Join(request.target, name), {request.filesOnly, LinkCopy::content});
+        return CopyTree(source, Join(request.target, name), {.filesOnly = request.filesOnly});
     case platform::FileOperation::move:
         return MoveTree(source, Join(request.target, name));
     case platform::FileOperation::rename:
         return MoveTree(source, request.target);
     case platform::FileOperation::remove:
         return RemoveTree(AT_FDCWD, source);
+    case platform::FileOperation::removeEmpty:
+        return rmdir(Native(source)) == 0 || Fail();
     case platform::FileOperation::trash:
         return MoveToTrash(source);
+    case platform::FileOperation::restore:
+        return RestoreFromTrash(source, request.target);
     }
     return false;
 }
@@ -79,6 +85,16 @@ bool CLinuxShell::SHFileOperation(const platform::FileOperationRequest& request)
         all = OperateOn(source, request) && all;
     }
     return all;
+}
+
+platform::FileStepResult CLinuxShell::DoFileStep(const platform::FileStep& step)
+{
+    return DoStep(step);
+}
+
+std::optional<platform::EntryFacts> CLinuxShell::FindEntry(const std::string& path)
+{
+    return EntryAt(path);
 }
 
 bool CLinuxShell::WinExec(const std::string& command)

@@ -121,7 +121,7 @@ bool WriteInfo(const std::string& file, const std::string& path)
 
 }  // namespace
 
-bool MoveToTrash(const std::string& path)
+bool MoveToTrash(const std::string& path, std::string* place)
 {
     CLinuxFileSystem files;
     const std::optional<std::string> folder = files.ResolveLink(ParentOf(path));
@@ -133,27 +133,44 @@ bool MoveToTrash(const std::string& path)
         return Fail();
     const std::string name(NameOf(path));
     const std::string full = Join(*folder, name);
+    if (access(folder->c_str(), W_OK) != 0)
+        return Fail();
     const std::optional<Trash> trash = TrashFor(full);
-    if (!trash || !MakeFolders(Join(trash->folder, "info")) || !MakeFolders(Join(trash->folder, "files")))
+    if (!trash)
+        return Fail(ENOTSUP);
+    if (!MakeFolders(Join(trash->folder, "info")) || !MakeFolders(Join(trash->folder, "files")))
         return false;
     const std::string written =
         trash->pathBase.empty() ? full : full.substr(Join(trash->pathBase, "").size());
     for (int number = 1; number <= kMostNames; ++number) {
         const std::string inTrash = NameInTrash(name, number);
         const std::string info = Join(Join(trash->folder, "info"), inTrash + ".trashinfo");
+        const std::string there = Join(Join(trash->folder, "files"), inTrash);
         if (!WriteInfo(info, written)) {
             if (LastFailure() == EEXIST)
                 continue;
             return false;
         }
-        if (RenameNoReplace(AT_FDCWD, full, AT_FDCWD, Join(Join(trash->folder, "files"), inTrash)))
+        if (RenameNoReplace(AT_FDCWD, full, AT_FDCWD, there)) {
+            if (place)
+                *place = there;
             return true;
+        }
         const int reason = LastFailure();
         (void)unlink(info.c_str());
         if (reason != EEXIST)
-            return Fail(reason);
+            return Fail(reason == EXDEV ? ENOTSUP : reason);
     }
     return Fail(EEXIST);
+}
+
+bool RestoreFromTrash(const std::string& place, const std::string& path)
+{
+    const std::string trash = ParentOf(ParentOf(place));
+    if (!RenameNoReplace(AT_FDCWD, place, AT_FDCWD, path))
+        return false;
+    (void)unlink(Native(Join(Join(trash, "info"), std::string(NameOf(place)) + ".trashinfo")));
+    return true;
 }
 
 }  // namespace platform_linux

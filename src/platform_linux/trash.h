@@ -9,8 +9,10 @@
 namespace platform_linux
 {
 
-// Moves a file, link or folder to the trash. False, with the file where it was, when its volume has no trash
-// and none can be made there.
-bool MoveToTrash(const std::string& path);
+// Moves a file, link or folder to the trash and tells in `place` where it lies there. False, with the file
+// where it was, when that cannot be; with ENOTSUP when its volume has no trash and none can be made there.
+bool MoveToTrash(const std::string& path, std::string* place = nullptr);
+// Moves what lies at `place` in a trash to the free name `path`.
+bool RestoreFromTrash(const std::string& place, const std::string& path);
 
 }  // namespace platform_linux

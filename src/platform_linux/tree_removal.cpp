@@ -12,19 +12,37 @@
 namespace platform_linux
 {
 
-bool RemoveTree(int parent, const std::string& name)
+namespace
 {
+
+// `path` is for people: what the entry is called when it cannot be removed.
+bool Remove(int parent, const std::string& name, const std::string& path, COperationLog& log)
+{
+    if (!log.Advance())
+        return false;
     if (unlinkat(parent, Native(name), 0) == 0)
         return true;
     if (errno != EISDIR && errno != EPERM)
-        return Fail();
+        return Fail() || log.Failed(path);
     const DirHandle folder = OpenFolder(parent, name, O_NOFOLLOW);
     if (!folder)
-        return false;
+        return log.Failed(path);
     bool all = true;
-    while (const dirent* entry = NextEntry(folder.get()))
-        all = RemoveTree(dirfd(folder.get()), entry->d_name) && all;
-    return (unlinkat(parent, Native(name), AT_REMOVEDIR) == 0 || Fail()) && all;
+    while (const dirent* entry = NextEntry(folder.get())) {
+        all = Remove(dirfd(folder.get()), entry->d_name, Join(path, entry->d_name), log) && all;
+        if (log.IsCancelled())
+            return Fail(ECANCELED);
+    }
+    // A folder that is not empty for a reason already told needs no second word.
+    return all && (unlinkat(parent, Native(name), AT_REMOVEDIR) == 0 || Fail() || log.Failed(path));
+}
+
+}  // namespace
+
+bool RemoveTree(int parent, const std::string& name, COperationLog* log)
+{
+    COperationLog own;
+    return Remove(parent, name, name, log ? *log : own);
 }
 
 }  // namespace platform_linux

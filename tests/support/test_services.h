@@ -216,6 +216,8 @@ public:
         log.push_back("copy " + request.sources.at(0) + " to " + request.target);
         return true;
     }
+    platform::FileStepResult DoFileStep(const platform::FileStep&) override { return {}; }
+    std::optional<platform::EntryFacts> FindEntry(const std::string&) override { return std::nullopt; }
     bool WinExec(const std::string& command) override
     {
         log.push_back("run " + command);

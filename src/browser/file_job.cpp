@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/file_job.h"
+
+#include "browser/clash_names.h"
+#include "browser/file_names.h"
+#include "browser/job_run.h"
+#include "platform/services.h"
+
+#include <utility>
+
+namespace browser
+{
+
+namespace
+{
+
+using platform::FileFailure;
+using platform::FileOperation;
+using platform::Os;
+
+constexpr int kMostNumbers = 10'000;
+
+// Why the step as a whole was not done; `other` when only parts of it were not.
+FileFailure FailureOf(const platform::FileStepResult& result, const std::string& source)
+{
+    if (result.done)
+        return FileFailure::none;
+    const bool whole = result.problems.size() == 1 && result.problems.front().path == source;
+    return whole ? result.problems.front().failure : FileFailure::other;
+}
+
+class CFileJob
+{
+public:
+    CFileJob(const FileJobRequest& jobRequest, CFileJobHost& jobHost)
+        : request(jobRequest), run(jobHost, report)
+    {
+    }
+
+    FileJobReport Run()
+    {
+        report.task = request.task;
+        report.items = request.task == FileTask::makeFolder ? 1 : request.sources.size();
+        report.undo.task = request.task;
+        report.undo.items = report.items;
+        const std::string& first = request.sources.empty() ? request.target : request.sources.front();
+        report.undo.name = FileName(first);
+        if (request.task == FileTask::makeFolder)
+            MakeFolder();
+        for (std::size_t i = 0; i < request.sources.size() && !report.cancelled; ++i) {
+            run.BeginItem(i, request.sources.size());
+            std::string source = request.sources[i];
+            while (source.size() > 1 && source.ends_with('/'))
+                source.pop_back();
+            DoItem(source);
+        }
+        return std::move(report);
+    }
+
+private:
+    void DoItem(const std::string& source)
+    {
+        const std::size_t before = report.problemCount;
+        const std::size_t skippedBefore = report.skipped;
+        switch (request.task) {
+        case FileTask::copy:
+        case FileTask::move:
+            isTop = true;
+            Transfer(source, JoinPath(request.target, FileName(source)));
+            break;
+        case FileTask::rename:
+            Settle(source, run.Do(FileOperation::rename, source, request.target));
+            break;
+        case FileTask::trash:
+            Trash(source);
+            break;
+        case FileTask::remove:
+            run.Note(run.Do(FileOperation::remove, source));
+            break;
+        default:
+            break;
+        }
+        if (report.problemCount == before && report.skipped == skippedBefore && !report.cancelled)
+            ++report.done;
+    }
+
+    void MakeFolder()
+    {
+        if (Os().files->CreateDirectory(request.target)) {
+            report.done = 1;
+            report.results.push_back(request.target);
+            report.undo.steps.push_back({UndoAction::removeFolder, request.target, {}, {}});
+            return;
+        }
+        const std::string reason = Os().files->LastError();
+        const bool taken = Os().shell->FindEntry(request.target).has_value();
+        run.Note({request.target, taken ? FileFailure::nameTaken : FileFailure::other, reason});
+    }
+
+    void Trash(const std::string& source)
+    {
+        const auto result = run.Do(FileOperation::trash, source);
+        if (result.done)
+            Record(UndoAction::restore, result.target, source);
+        run.Note(result);
+    }
+
+    FileOperation Operation() const
+    {
+        return request.task == FileTask::copy ? FileOperation::copy : FileOperation::rename;
+    }
+
+    // Copies or moves to the new path, asking when its name is taken.
+    void Transfer(const std::string& source, const std::string& target)
+    {
+        const auto result = run.Do(Operation(), source, target);
+        switch (FailureOf(result, source)) {
+        case FileFailure::nameTaken:
+            return AnswerClash(source, target);
+        case FileFailure::itself:
+            // A copy beside itself is wanted under another name; a move to where it is, is done.
+            if (request.task == FileTask::copy)
+                return PutBeside(source, target);
+            if (std::exchange(isTop, false))
+                report.results.push_back(source);
+            return;
+        default:
+            return Settle(source, result);
+        }
+    }
+
+    // Records what the step has put in place, and notes what it has not.
+    void Settle(const std::string& source, const platform::FileStepResult& result)
+    {
+        if (!result.target.empty()) {
+            const bool copied = request.task == FileTask::copy;
+            Record(copied ? UndoAction::takeAway : UndoAction::moveBack, result.target,
+                   copied ? std::string() : source);
+            if (std::exchange(isTop, false))
+                report.results.push_back(result.target);
+        }
+        run.Note(result);
+    }
+
+    void Record(UndoAction action, const std::string& path, const std::string& origin)
+    {
+        const auto facts = Os().shell->FindEntry(path);
+        report.undo.steps.push_back({action, path, origin, facts ? facts->stamp : platform::FileStamp{}});
+    }
+
+    void AnswerClash(const std::string& source, const std::string& target)
+    {
+        const auto from = Os().shell->FindEntry(source);
+        const auto to = Os().shell->FindEntry(target);
+        const Clash clash{source, target, from && to && from->isFolder && to->isFolder};
+        std::optional<ClashAnswer>& remembered = clash.areFolders ? answerForFolders : answerForOthers;
+        ClashReply reply{remembered.value_or(ClashAnswer::cancel), false};
+        if (!remembered)
+            reply = run.Host().AskAboutClash(clash);
+        if (reply.forAll)
+            remembered = reply.answer;
+        switch (reply.answer) {
+        case ClashAnswer::cancel:
+            report.cancelled = true;
+            break;
+        case ClashAnswer::skip:
+            ++report.skipped;
+            break;
+        case ClashAnswer::keepBoth:
+            PutBeside(source, target);
+            break;
+        case ClashAnswer::replace:
+            Replace(source, target);
+            break;
+        case ClashAnswer::merge:
+            Merge(source, target);
+            break;
+        }
+    }
+
+    // Under the first free name with a number.
+    void PutBeside(const std::string& source, const std::string& target)
+    {
+        const auto facts = Os().shell->FindEntry(source);
+        const NameKind kind = facts && facts->isFolder ? NameKind::folder : NameKind::file;
+        platform::FileStepResult result;
+        for (int number = 2; number < kMostNumbers; ++number) {
+            const std::string name = NumberedName(FileName(target), number, kind);
+            result = run.Do(Operation(), source, JoinPath(FolderOf(target), name));
+            const FileFailure failure = FailureOf(result, source);
+            if (failure != FileFailure::nameTaken && failure != FileFailure::itself)
+                break;
+        }
+        Settle(source, result);
+    }
+
+    // Whether `path` lies in the folder `folder`, all links resolved.
+    static bool LiesIn(const std::string& path, const std::string& folder)
+    {
+        const auto place = Os().files->ResolveLink(std::string(FolderOf(path)));
+        const auto top = Os().files->ResolveLink(folder);
+        return place && top && (*place == *top || place->starts_with(JoinPath(*top, "")));
+    }
+
+    void Replace(const std::string& source, const std::string& target)
+    {
+        if (LiesIn(source, target))
+            return run.Note({source, FileFailure::intoItself, {}});
+        const auto old = run.Do(FileOperation::trash, target);
+        if (!old.done)
+            return run.Note(old);
+        Record(UndoAction::restore, old.target, target);
+        const auto result = run.Do(Operation(), source, target);
+        if (!result.done && result.target.empty() &&
+            Os().shell->DoFileStep({FileOperation::restore, old.target, target, {}}).done)
+            report.undo.steps.pop_back();
+        Settle(source, result);
+    }
+
+    void Merge(const std::string& source, const std::string& target)
+    {
+        const auto reader = Os().files->ReadFolder(source);
+        if (!reader)
+            return run.Note({source, FileFailure::other, Os().files->LastError()});
+        if (std::exchange(isTop, false))
+            report.results.push_back(target);
+        std::vector<platform::FolderEntry> entries;
+        while (reader->Read(1000, entries)) {
+        }
+        for (const platform::FolderEntry& entry : entries) {
+            if (report.cancelled)
+                return;
+            Transfer(JoinPath(source, entry.name), JoinPath(target, entry.name));
+        }
+        // What was skipped keeps its folder.
+        if (request.task == FileTask::move && run.Do(FileOperation::removeEmpty, source).done)
+            report.undo.steps.push_back({UndoAction::makeFolder, source, {}, {}});
+    }
+
+    const FileJobRequest& request;
+    FileJobReport report;
+    CJobRun run;
+    bool isTop = false;  // the item in work is one that the user chose, and nothing is there of it yet
+    std::optional<ClashAnswer> answerForFolders;
+    std::optional<ClashAnswer> answerForOthers;
+};
+
+}  // namespace
+
+FileJobReport RunFileJob(const FileJobRequest& request, CFileJobHost& host)
+{
+    return request.task == FileTask::undo ? RunUndo(request.record, host) : CFileJob(request, host).Run();
+}
+
+}  // namespace browser

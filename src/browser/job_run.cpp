@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "browser/job_run.h"
+
+#include "platform/services.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace browser
+{
+
+namespace
+{
+
+using platform::FileFailure;
+using platform::FileOperation;
+using platform::Os;
+
+constexpr std::size_t kMostProblems = 100;
+
+// A move may be taken back as long as it is the same thing; what would leave its place must be as it was.
+// Numbers of entries do not last on every file system, so equal sizes and times will do as well.
+bool IsAsLeft(const UndoStep& step, const platform::FileStamp& now)
+{
+    const bool same = now.device == step.stamp.device && now.inode == step.stamp.inode;
+    const bool looksSame = now.device == step.stamp.device && now.size == step.stamp.size &&
+                           now.modifiedNanoseconds == step.stamp.modifiedNanoseconds;
+    return looksSame || (same && step.action == UndoAction::moveBack);
+}
+
+FileOperation OperationOf(UndoAction action)
+{
+    switch (action) {
+    case UndoAction::takeAway:
+        return FileOperation::trash;
+    case UndoAction::restore:
+        return FileOperation::restore;
+    case UndoAction::removeFolder:
+        return FileOperation::removeEmpty;
+    default:
+        return FileOperation::rename;
+    }
+}
+
+// Nothing when it was taken back.
+std::optional<platform::FileProblem> TakeBack(const UndoStep& step, CJobRun& run)
+{
+    if (step.action == UndoAction::makeFolder) {
+        if (Os().files->CreateDirectory(step.path))
+            return std::nullopt;
+        return platform::FileProblem{step.path, FileFailure::other, Os().files->LastError()};
+    }
+    const auto facts = Os().shell->FindEntry(step.path);
+    if (!facts)
+        return platform::FileProblem{step.path, FileFailure::missing, {}};
+    if (step.action != UndoAction::removeFolder && !IsAsLeft(step, facts->stamp))
+        return platform::FileProblem{step.path, FileFailure::changed, {}};
+    const auto result = run.Do(OperationOf(step.action), step.path, step.origin);
+    if (result.done || result.problems.empty())
+        return std::nullopt;
+    platform::FileProblem problem = result.problems.front();
+    if (problem.failure == FileFailure::nameTaken)
+        problem.path = step.origin;
+    return problem;
+}
+
+}  // namespace
+
+void CJobRun::BeginItem(std::size_t number, std::size_t count)
+{
+    item = number;
+    items = std::max<std::size_t>(1, count);
+}
+
+platform::FileStepResult CJobRun::Do(FileOperation operation, const std::string& source,
+                                     const std::string& target)
+{
+    const auto tell = [&](std::uint64_t done, std::uint64_t all) {
+        const double part =
+            all == 0 ? 0 : std::min(1.0, static_cast<double>(done) / static_cast<double>(all));
+        return host.Progress(
+            {source, item, items, (static_cast<double>(item) + part) / static_cast<double>(items)});
+    };
+    return Os().shell->DoFileStep({operation, source, target, tell});
+}
+
+void CJobRun::Note(const platform::FileStepResult& result)
+{
+    for (const platform::FileProblem& problem : result.problems)
+        Note(problem);
+}
+
+void CJobRun::Note(platform::FileProblem problem)
+{
+    if (problem.failure == FileFailure::cancelled) {
+        report.cancelled = true;
+        return;
+    }
+    ++report.problemCount;
+    if (report.problems.size() < kMostProblems)
+        report.problems.push_back(std::move(problem));
+}
+
+FileJobReport RunUndo(const UndoRecord& record, CFileJobHost& host)
+{
+    FileJobReport report;
+    CJobRun run(host, report);
+    report.task = FileTask::undo;
+    report.items = record.steps.size();
+    report.undo = record;
+    std::vector<UndoStep>& left = report.undo.steps;
+    while (!left.empty() && !report.cancelled) {
+        const UndoStep step = left.back();
+        run.BeginItem(report.items - left.size(), report.items);
+        const auto problem = TakeBack(step, run);
+        if (problem)
+            run.Note(*problem);
+        if (report.cancelled)
+            return report;
+        left.pop_back();
+        if (problem)
+            continue;
+        ++report.done;
+        if (!step.origin.empty())
+            report.results.push_back(step.origin);
+    }
+    return report;
+}
+
+}  // namespace browser
