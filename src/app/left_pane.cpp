@@ -87,17 +87,19 @@ std::string WithoutSeparator(std::string path)
     return path;
 }
 
+// With the albums that are there now; like any folder it is read anew when it is opened.
 Place FavouriteFolder(CDataFolders& dataFolders, DataFolderKind kind, PlaceKind placeKind)
 {
     const std::string path = WithoutSeparator(dataFolders.FolderPath(kind));
-    Place place{placeKind, std::string(browser::FileName(path)), path, false, {}};
-    if (dataFolders.ListAlbums(path)) {
-        for (const std::string& album : dataFolders.AlbumNames())
-            place.children.push_back({PlaceKind::folder, album, browser::JoinPath(path, album), true, {}});
-    }
-    const std::string sample = browser::JoinPath(path, "Sample");
-    if (kind != DataFolderKind::animation && platform::Os().files->FindFirstFile(sample))
-        place.children.push_back({PlaceKind::folder, "Sample", sample, true, {}});
+    Place place{placeKind, std::string(browser::FileName(path)), path, true, {}};
+    std::vector<std::string> names;
+    if (dataFolders.ListAlbums(path))
+        names = dataFolders.AlbumNames();
+    if (platform::Os().files->FindFirstFile(browser::JoinPath(path, "Sample")))
+        names.emplace_back("Sample");
+    std::ranges::sort(names, browser::NameBefore);
+    for (const std::string& name : names)
+        place.children.push_back({PlaceKind::folder, name, browser::JoinPath(path, name), true, {}});
     return place;
 }
 

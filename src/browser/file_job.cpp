@@ -7,6 +7,8 @@
 #include "browser/job_run.h"
 #include "platform/services.h"
 
+#include <fmt/format.h>
+
 #include <utility>
 
 namespace browser
@@ -41,13 +43,16 @@ public:
     FileJobReport Run()
     {
         report.task = request.task;
-        report.items = request.task == FileTask::makeFolder ? 1 : request.sources.size();
+        const bool makes = request.task == FileTask::makeFolder || request.task == FileTask::makePicture;
+        report.items = makes ? 1 : request.sources.size();
         report.undo.task = request.task;
         report.undo.items = report.items;
         const std::string& first = request.sources.empty() ? request.target : request.sources.front();
         report.undo.name = FileName(first);
         if (request.task == FileTask::makeFolder)
             MakeFolder();
+        if (request.task == FileTask::makePicture)
+            MakePicture();
         for (std::size_t i = 0; i < request.sources.size() && !report.cancelled; ++i) {
             run.BeginItem(i, request.sources.size());
             std::string source = request.sources[i];
@@ -96,6 +101,27 @@ private:
         const std::string reason = Os().files->LastError();
         const bool taken = Os().shell->FindEntry(request.target).has_value();
         run.Note({request.target, taken ? FileFailure::nameTaken : FileFailure::other, reason});
+    }
+
+    void MakePicture()
+    {
+        for (int number = 1; number < kMostNumbers; ++number) {
+            const std::string path = JoinPath(request.target, fmt::format("Image{:04}.bmp", number));
+            const auto file = Os().files->Open(path, platform::OpenMode::createNew);
+            if (!file && Os().shell->FindEntry(path))
+                continue;
+            if (!file || !file->WriteAt(0, std::as_bytes(std::span(request.bytes)))) {
+                run.Note({path, FileFailure::other, Os().files->LastError()});
+                if (file)
+                    Os().files->DeleteFile(path);
+                return;
+            }
+            report.done = 1;
+            report.results.push_back(path);
+            report.undo.name = FileName(path);
+            Record(UndoAction::takeAway, path, {});
+            return;
+        }
     }
 
     void Trash(const std::string& source)

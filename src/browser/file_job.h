@@ -16,8 +16,10 @@ namespace browser
 struct FileJobRequest {
     FileTask task = FileTask::copy;
     std::vector<std::string> sources;
-    std::string target;  // copy, move: the folder that receives; rename, makeFolder: the new path
-    UndoRecord record;   // undo: what to take back
+    // copy, move, makePicture: the folder that receives; rename, makeFolder: the new path
+    std::string target;
+    UndoRecord record;  // undo: what to take back
+    std::string bytes;  // makePicture: a bitmap file, which becomes "Image0001.bmp" or the next free number
 };
 
 enum class ClashAnswer { cancel, skip, replace, keepBoth, merge };

@@ -16,7 +16,7 @@
 namespace browser
 {
 
-enum class FileTask { copy, move, trash, remove, rename, makeFolder, undo };
+enum class FileTask { copy, move, trash, remove, rename, makeFolder, makePicture, undo };
 
 enum class UndoAction {
     moveBack,      // from `path` to `origin`

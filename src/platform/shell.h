@@ -100,6 +100,8 @@ public:
     // Starts a program detached from this one: `command` is a program and its arguments, divided by blanks,
     // with double quotes around those that hold blanks. False when it cannot be started.
     virtual bool WinExec(const std::string& command) = 0;
+    // The same for words that stand as they are.
+    virtual bool StartProgram(const std::vector<std::string>& words) = 0;
     // Opens a file or folder with the program that the desktop has for it.
     virtual bool ShellExecute(const std::string& path) = 0;
     virtual std::vector<Volume> Volumes() = 0;

@@ -102,6 +102,11 @@ bool CLinuxShell::WinExec(const std::string& command)
     return Launch(SplitCommand(command));
 }
 
+bool CLinuxShell::StartProgram(const std::vector<std::string>& words)
+{
+    return Launch(words);
+}
+
 bool CLinuxShell::ShellExecute(const std::string& path)
 {
     // A name that begins with "-" must not be taken for an option.

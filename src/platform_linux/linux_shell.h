@@ -17,6 +17,7 @@ public:
     platform::FileStepResult DoFileStep(const platform::FileStep& step) override;
     std::optional<platform::EntryFacts> FindEntry(const std::string& path) override;
     bool WinExec(const std::string& command) override;
+    bool StartProgram(const std::vector<std::string>& words) override;
     bool ShellExecute(const std::string& path) override;
     std::vector<platform::Volume> Volumes() override;
 };

@@ -70,6 +70,7 @@ CDetailsView::CDetailsView(QWidget* parent) : QTreeView(parent)
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
+    setDragEnabled(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
     setItemDelegate(new CRowDelegate(*this));

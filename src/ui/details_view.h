@@ -47,8 +47,11 @@ Q_SIGNALS:
     void ColumnsChanged();
     // The header asks for its menu at that place of the screen.
     void HeaderMenuWanted(const QPoint& place);
+    // The selected items are being dragged.
+    void DragStarts();
 
 protected:
+    void startDrag(Qt::DropActions) override { Q_EMIT DragStarts(); }
     int sizeHintForColumn(int column) const override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
     void resizeEvent(QResizeEvent* event) override;

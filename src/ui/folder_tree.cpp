@@ -41,6 +41,7 @@ CFolderTree::CFolderTree(std::vector<app::Place> places, const QString& name, QW
     setTextElideMode(Qt::ElideMiddle);
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(true);
+    setDragEnabled(true);
     setItemDelegate(new CPlaceDelegate(this));
     viewport()->setMouseTracking(true);
     // The tree stands on the frame's ground, not on the list's.
@@ -92,6 +93,12 @@ void CFolderTree::ForgetGone(const QModelIndex& parent, int first, int last)
             return;
         }
     }
+}
+
+void CFolderTree::RefreshFolder(const std::string& path)
+{
+    for (const QModelIndex& index : folders.Find(path))
+        folders.Read(index);
 }
 
 void CFolderTree::ExpandPlaces()

@@ -27,6 +27,10 @@ public:
     void Refresh() { folders.Read(currentIndex()); }
     // Reads all folders anew that have been read before; nothing is told of a selected folder that is gone.
     void RefreshLoaded();
+    // Reads the sub-folders of a folder anew where the tree shows them.
+    void RefreshFolder(const std::string& path);
+    std::string PathOf(const QModelIndex& index) const { return folders.Path(index); }
+    bool IsPlainFolder(const QModelIndex& index) const { return folders.IsPlainFolder(index); }
     bool IsReading() const { return folders.IsReading(); }
     // Takes in which volumes there are now. A selected folder whose volume went is selected no more.
     void UpdateVolumes(const std::vector<app::Place>& volumes);
@@ -35,8 +39,11 @@ Q_SIGNALS:
     // The user has selected another folder.
     void FolderChosen(const std::string& path);
     void ReadingEnded();
+    // The selected folder is being dragged out of the tree.
+    void DragStarts();
 
 protected:
+    void startDrag(Qt::DropActions) override { Q_EMIT DragStarts(); }
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

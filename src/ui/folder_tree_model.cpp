@@ -116,6 +116,30 @@ std::string CFolderTreeModel::Path(const QModelIndex& index) const
     return NodeOf(index)->path;
 }
 
+bool CFolderTreeModel::IsPlainFolder(const QModelIndex& index) const
+{
+    return index.isValid() && NodeOf(index)->kind == app::PlaceKind::folder;
+}
+
+std::vector<QModelIndex> CFolderTreeModel::Find(const std::string& path) const
+{
+    std::vector<QModelIndex> found;
+    Collect(root.get(), path, found);
+    return found;
+}
+
+void CFolderTreeModel::Collect(const Node* from, const std::string& path,
+                               std::vector<QModelIndex>& found) const
+{
+    for (const auto& child : from->children) {
+        if (child->path == path)
+            found.push_back(IndexOf(child.get()));
+        // A heading holds places of any path.
+        if (child->path.empty() || IsWithin(path, child->path))
+            Collect(child.get(), path, found);
+    }
+}
+
 // The place, or the folder already in the tree, that lies nearest above the path.
 CFolderTreeModel::Node* CFolderTreeModel::NearestPlace(Node* from, const std::string& path) const
 {
@@ -352,7 +376,7 @@ Qt::ItemFlags CFolderTreeModel::flags(const QModelIndex& index) const
         return Qt::NoItemFlags;
     if (NodeOf(index)->kind == app::PlaceKind::heading)
         return Qt::ItemIsEnabled;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
 }
 
 }  // namespace ui

@@ -28,6 +28,10 @@ public:
 
     // Empty for a heading and for no index.
     std::string Path(const QModelIndex& index) const;
+    // Whether it is a folder like any other, which may be renamed and deleted, and no place of the tree.
+    bool IsPlainFolder(const QModelIndex& index) const;
+    // Every index that shows the folder; none where the tree has not come to it.
+    std::vector<QModelIndex> Find(const std::string& path) const;
     // The index of a folder, put into the tree where its place has sub-folders; none when no place leads
     // there. Nothing is read for it.
     QModelIndex Reveal(const std::string& path);
@@ -56,6 +60,7 @@ private:
     Node* NodeOf(const QModelIndex& index) const;
     QModelIndex IndexOf(const Node* node) const;
     static std::unique_ptr<Node> MakeNode(app::Place place, Node* parent);
+    void Collect(const Node* from, const std::string& path, std::vector<QModelIndex>& found) const;
     Node* NearestPlace(Node* from, const std::string& path) const;
     Node* EnsureChild(Node* parent, const std::string& name);
     void ReadNode(Node* node);

@@ -9,9 +9,7 @@
 #include "ui/words.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QMenu>
-#include <QMimeData>
 #include <QScrollBar>
 
 namespace ui
@@ -26,12 +24,6 @@ constexpr int kFactsOfSelection = 50;
 // Milliseconds to wait for another program that holds the store: while the window is live, and at its end.
 constexpr int kPatience = 50;
 constexpr int kPatienceAtEnd = 10'000;
-
-// "file://" and the path's bytes, all but the plain ones as "%41".
-QByteArray FileUri(const std::string& path)
-{
-    return "file://" + QByteArray::fromStdString(path).toPercentEncoding("/");
-}
 
 }  // namespace
 
@@ -52,6 +44,8 @@ CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, const std::st
     WatchView(thumbnails);
     WatchView(details);
     connect(thumbnails, &CThumbnailView::VisibleChanged, this, &CIEShellListCtrl::WorkAppeared);
+    connect(thumbnails, &CThumbnailView::DragStarts, this, &CIEShellListCtrl::DragStarts);
+    connect(details, &CDetailsView::DragStarts, this, &CIEShellListCtrl::DragStarts);
     connect(&filler, &CListFiller::PieceBegins, this, &CIEShellListCtrl::KeepState);
     connect(&filler, &CListFiller::Filled, this, &CIEShellListCtrl::OnFilled);
     connect(&filler, &CListFiller::ThumbnailsDue, this, &CIEShellListCtrl::WorkAppeared);
@@ -322,18 +316,45 @@ void CIEShellListCtrl::InvertSelection()
     View()->selectionModel()->select(all, QItemSelectionModel::Toggle);
 }
 
-void CIEShellListCtrl::CopySelection() const
+std::vector<std::string> CIEShellListCtrl::SelectedPaths() const
 {
-    QByteArray uris;
-    for (const QItemSelectionRange& range : View()->selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom() && row < list.Count(); ++row)
-            uris += FileUri(list.PathOf(row)) + "\r\n";
+    std::vector<std::string> paths;
+    const QItemSelectionModel& selection = *View()->selectionModel();
+    for (int row = 0; selection.hasSelection() && row < std::min(list.Count(), selection.model()->rowCount());
+         ++row) {
+        if (selection.isSelected(selection.model()->index(row, 0)))
+            paths.push_back(list.PathOf(row));
     }
-    if (uris.isEmpty())
-        return;
-    auto* copied = new QMimeData;
-    copied->setData(QStringLiteral("text/uri-list"), uris);
-    QGuiApplication::clipboard()->setMimeData(copied);
+    return paths;
+}
+
+std::string CIEShellListCtrl::NameAfterSelection() const
+{
+    const QItemSelectionModel& selection = *View()->selectionModel();
+    const auto isSelected = [&](int row) { return selection.isSelected(selection.model()->index(row, 0)); };
+    int last = list.Count() - 1;
+    while (last >= 0 && !isSelected(last))
+        --last;
+    if (last + 1 < list.Count())
+        return list.Item(last + 1).name;
+    while (last >= 0 && isSelected(last))
+        --last;
+    return last < 0 ? std::string() : list.Item(last).name;
+}
+
+void CIEShellListCtrl::RefreshSelecting(const std::vector<std::string>& names)
+{
+    if (!names.empty()) {
+        keeper.Want(names);
+        stateIsKept = true;
+    }
+    Refresh();
+}
+
+void CIEShellListCtrl::SetFaded(const std::set<std::string>& paths)
+{
+    nameModel.SetFaded(paths);
+    allModel.SetFaded(paths);
 }
 
 SelectionFacts CIEShellListCtrl::Selection()

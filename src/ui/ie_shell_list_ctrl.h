@@ -64,8 +64,14 @@ public:
     void SelectAll();
     void SelectNone();
     void InvertSelection();
-    // Puts the selected files on the clipboard.
-    void CopySelection() const;
+    // In the order of the list.
+    std::vector<std::string> SelectedPaths() const;
+    // The name of the item that takes over when the selected ones go; empty for none.
+    std::string NameAfterSelection() const;
+    // Reads the folder anew; then these items are selected, where they are there.
+    void RefreshSelecting(const std::vector<std::string>& names);
+    // Draws the items of these paths faded.
+    void SetFaded(const std::set<std::string>& paths);
     SelectionFacts Selection();
     // This item alone is selected, current and in sight.
     void SelectOnly(int row);
@@ -97,6 +103,8 @@ Q_SIGNALS:
     void FolderActivated(const std::string& path);
     // A photo, handset image or clip is to be shown large.
     void PictureActivated(int row);
+    // The selected items are being dragged out of the view.
+    void DragStarts();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

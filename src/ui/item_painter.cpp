@@ -22,6 +22,7 @@ namespace
 constexpr int kPadding = 2 * kGrid;
 constexpr int kNameLines = 2;
 constexpr int kPictureRadius = 3;
+constexpr qreal kFadedOpacity = 0.4;
 
 // The name broken over at most two lines, its middle left out when it is longer.
 QStringList NameLines(const QString& name, const QFontMetrics& metrics, const QFont& font, int width)
@@ -103,15 +104,26 @@ void CItemPainter::Draw(QPainter& painter, const browser::MediaItem& item, const
                                 kCornerRadius);
         painter.restore();
     }
-    const int side = look.box.width() - 2 * kPadding;
-    const QRect picture(look.box.left() + kPadding, look.box.top() + kPadding, side, side);
+    const QRect picture = PictureBox(look.box);
+    painter.setOpacity(look.faded ? kFadedOpacity : 1);
     if (item.thumbnail)
         DrawPicture(painter, item.thumbnail, picture);
     else
         DrawIcon(painter, item, picture);
-    DrawName(painter, Shown(item.name),
-             QRect(look.box.left() + kGrid, picture.bottom() + 1 + kGrid, look.box.width() - 2 * kGrid,
-                   look.box.bottom() - picture.bottom() - kGrid));
+    DrawName(painter, Shown(item.name), NameBox(look.box));
+    painter.setOpacity(1);
+}
+
+QRect CItemPainter::PictureBox(const QRect& cell)
+{
+    const int side = cell.width() - 2 * kPadding;
+    return {cell.left() + kPadding, cell.top() + kPadding, side, side};
+}
+
+QRect CItemPainter::NameBox(const QRect& cell)
+{
+    const int top = PictureBox(cell).bottom() + 1 + kGrid;
+    return {cell.left() + kGrid, top, cell.width() - 2 * kGrid, cell.bottom() + 1 - top};
 }
 
 void CItemPainter::DrawPicture(QPainter& painter, const platform::BitmapHandle& bitmap, const QRect& box)

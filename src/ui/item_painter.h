@@ -18,6 +18,7 @@ struct CellLook {
     bool selected = false;
     bool current = false;  // the view has the focus and this is its current item
     bool hovered = false;
+    bool faded = false;
 };
 
 // What an icon stands for: a thumbnail that is not there, or the kind of file.
@@ -29,6 +30,9 @@ public:
     CItemPainter();
     // `side`: the edge of the square that pictures are fitted into.
     static QSize CellSize(int side, const QFontMetrics& metrics);
+    // Where a cell has its picture and its name.
+    static QRect PictureBox(const QRect& cell);
+    static QRect NameBox(const QRect& cell);
     void Draw(QPainter& painter, const browser::MediaItem& item, const CellLook& look);
     static QString IconName(const browser::MediaItem& item, IconUse use);
 

@@ -35,6 +35,7 @@ CFolderTree* CLeftView::FolderTree()
         folderTree = new CIEShellTreeCtrl(app::FolderPlaces(), Text(StringId::placeFolders));
         panels->addWidget(folderTree);
         connect(folderTree, &CFolderTree::FolderChosen, this, &CLeftView::SelectFolder);
+        Q_EMIT TreeMade(folderTree);
     }
     return folderTree;
 }
@@ -45,6 +46,11 @@ CFolderTree* CLeftView::Tree() const
         state.Mode() == app::PanelMode::folder ||
         (state.Mode() == app::PanelMode::search && state.PreviousMode() == app::PanelMode::folder);
     return second ? folderTree : deviceTree;
+}
+
+std::vector<CFolderTree*> CLeftView::Trees() const
+{
+    return folderTree ? std::vector{deviceTree, folderTree} : std::vector{deviceTree};
 }
 
 std::string CLeftView::Folder() const

@@ -33,9 +33,12 @@ public:
     CFolderTree* Tree() const;
     // Takes in which volumes are mounted now.
     void UpdateVolumes(const std::vector<platform::Volume>& volumes);
+    // The trees made so far.
+    std::vector<CFolderTree*> Trees() const;
 
 Q_SIGNALS:
     void FolderChosen(const std::string& path);
+    void TreeMade(CFolderTree* tree);
 
 private:
     void ShowTree(app::PanelMode mode);

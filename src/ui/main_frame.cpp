@@ -8,6 +8,7 @@
 #include "ui/background.h"
 #include "ui/controls/skin.h"
 #include "ui/display_text.h"
+#include "ui/files/report_box.h"
 #include "ui/frame/waiting_question.h"
 #include "ui/list/list_commands.h"
 #include "ui/printer_defaults.h"
@@ -39,7 +40,8 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
              [this](const std::string& text) { Tell(Shown(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
       right(new CIEShellListView(owner.DbFolder(), SettingsFile(), *menu)), pages(new CViewerPages(right)),
-      status(new CStatusBar(this)), panes(new QSplitter(this)), bars(*menu, owner.ProgramFolder(), *this),
+      status(new CStatusBar(this)), panes(new QSplitter(this)),
+      files(new CFileActions(*right->Ctrl(), *left, *this)), bars(*menu, owner.ProgramFolder(), *this),
       contextMenus(new CContextMenus(
           *menu, [this](app::FrameMessage message, std::int64_t lParam) { SendMessage(message, lParam); },
           this)),
@@ -52,6 +54,7 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
     setWindowTitle(Shown(caption.empty() ? owner.Title() : caption));
     BuildPanes();
     ConnectList();
+    ConnectFiles();
     connect(menu, &CMainMenu::Triggered, this, [this](app::CommandId id) { router.Run(id); });
     thumbnailTimer.setTimerType(Qt::PreciseTimer);
     thumbnailTimer.setInterval(kThumbnailPeriod);
@@ -112,6 +115,21 @@ void CMainFrame::ConnectList()
     connect(pages, &CViewerPages::CommandWanted, this,
             [this](app::CommandId id) { menu->Action(id)->trigger(); });
     connect(right->UpAction(), &QAction::triggered, this, &CMainFrame::GoUp);
+}
+
+void CMainFrame::ConnectFiles()
+{
+    connect(files, &CFileActions::FolderMoved, this, [this](const std::string& path) { GoTo(path); });
+    const auto showUndo = [this](const QString& text, bool possible) {
+        menu->Action(app::CommandId::undo)->setText(text);
+        menu->Action(app::CommandId::undo)->setEnabled(possible);
+    };
+    connect(files, &CFileActions::UndoChanged, this, showUndo);
+    showUndo(UndoText(nullptr), false);
+    auto* forGood = new QAction(this);
+    forGood->setShortcut(Qt::SHIFT | Qt::Key_Delete);
+    connect(forGood, &QAction::triggered, files, &CFileActions::DeleteForGood);
+    addAction(forGood);
 }
 
 void CMainFrame::Tick()

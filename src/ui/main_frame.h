@@ -16,6 +16,7 @@
 #include "ui/commands/view_commands.h"
 #include "ui/frame/context_menus.h"
 #include "ui/frame/frame_bars.h"
+#include "ui/files/file_actions.h"
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
@@ -57,6 +58,7 @@ public:
     CIEShellListView* ListView() const { return right; }
     CIEShellListCtrl* List() const { return right->Ctrl(); }
     CViewerPages* Pages() const { return pages; }
+    CFileActions* Files() const { return files; }
     CStatusBar* Status() const { return status; }
     QSplitter* Panes() const { return panes; }
     std::string SettingsFile() const;
@@ -78,6 +80,7 @@ private:
     void LoadSettings();
     void BuildPanes();
     void ConnectList();
+    void ConnectFiles();
     void Tick();
     void GoUp();
     void SwitchPane();
@@ -94,6 +97,7 @@ private:
     CViewerPages* pages;  // holds the right pane
     CStatusBar* status;
     QSplitter* panes;
+    CFileActions* files;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
     CFrameBars bars;

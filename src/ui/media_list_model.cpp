@@ -7,6 +7,7 @@
 #include "ui/display_text.h"
 #include "ui/icons.h"
 #include "ui/item_painter.h"
+#include "ui/theme.h"
 #include "ui/words.h"
 
 namespace ui
@@ -85,9 +86,20 @@ QVariant CMediaListModel::data(const QModelIndex& index, int role) const
         if (columns == Columns::all && index.column() == nameColumn)
             return ThemedIcon(CItemPainter::IconName(list.Item(row), IconUse::kind));
         return {};
+    case Qt::ForegroundRole:
+        return faded.contains(list.PathOf(row)) ? QVariant(CTheme::Colours().dimText) : QVariant();
+    case kFadedRole:
+        return faded.contains(list.PathOf(row));
     default:
         return {};
     }
+}
+
+void CMediaListModel::SetFaded(const std::set<std::string>& paths)
+{
+    faded = paths;
+    if (rows > 0)
+        Q_EMIT dataChanged(index(0, nameColumn), index(rows - 1, columnCount() - 1), {kFadedRole});
 }
 
 QString CMediaListModel::CellText(int row, int column) const
@@ -141,7 +153,7 @@ Qt::ItemFlags CMediaListModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
 }
 
 }  // namespace ui

@@ -10,6 +10,8 @@
 
 #include <QAbstractTableModel>
 
+#include <set>
+
 namespace ui
 {
 
@@ -32,6 +34,9 @@ public:
     void ItemChanged(int row);
     // The facts of any item may have changed.
     void FactsChanged();
+    // Items whose paths are in the set are drawn faded: they have been cut.
+    static constexpr int kFadedRole = Qt::UserRole + 1;
+    void SetFaded(const std::set<std::string>& paths);
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows; }
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -47,6 +52,7 @@ private:
     Columns columns;
     QStringList headings;
     int rows = 0;
+    std::set<std::string> faded;
 };
 
 // "Picture", "Video clip", "Folder" ...

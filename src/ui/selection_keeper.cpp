@@ -33,6 +33,14 @@ void CSelectionKeeper::Want(const std::string& fileName)
     showCurrent = true;
 }
 
+void CSelectionKeeper::Want(const std::vector<std::string>& fileNames)
+{
+    Forget();
+    selected.insert(fileNames.begin(), fileNames.end());
+    current = fileNames.empty() ? std::string() : fileNames.front();
+    showCurrent = true;
+}
+
 void CSelectionKeeper::Restore(QAbstractItemView& view, const browser::CMediaFileList& list) const
 {
     if (selected.empty() && current.empty() && top.empty())

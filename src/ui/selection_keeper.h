@@ -24,6 +24,8 @@ public:
     void Capture(const QAbstractItemView& view, const browser::CMediaFileList& list, int firstVisible);
     // Nothing is kept but this file, which becomes selected and current.
     void Want(const std::string& fileName);
+    // The same for several; the first becomes current.
+    void Want(const std::vector<std::string>& fileNames);
     void Forget() { *this = {}; }
     // Puts the state into `view`; names that are gone are left out.
     void Restore(QAbstractItemView& view, const browser::CMediaFileList& list) const;

@@ -32,6 +32,7 @@ CThumbnailView::CThumbnailView(const browser::CMediaFileList& mediaList, QWidget
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollMode(ScrollPerPixel);
+    setDragEnabled(true);
     viewport()->setMouseTracking(true);
 }
 
@@ -283,7 +284,8 @@ void CThumbnailView::paintEvent(QPaintEvent* event)
     for (int row = first; row <= last && row < list.Count(); ++row) {
         const QModelIndex index = model()->index(row, 0);
         const CellLook look{visualRect(index), selectionModel()->isSelected(index),
-                            hasFocus() && index == currentIndex(), row == hovered};
+                            hasFocus() && index == currentIndex(), row == hovered,
+                            index.data(CMediaListModel::kFadedRole).toBool()};
         if (look.box.intersects(dirty))
             itemPainter.Draw(painter, list.Item(row), look);
     }

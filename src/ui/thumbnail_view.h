@@ -41,6 +41,8 @@ Q_SIGNALS:
     void VisibleChanged();
     // The wheel was turned for another size.
     void SideWanted(int pixels);
+    // The selected items are being dragged.
+    void DragStarts();
 
 protected:
     int horizontalOffset() const override { return 0; }
@@ -49,6 +51,7 @@ protected:
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection& selection) const override;
     void updateGeometries() override;
+    void startDrag(Qt::DropActions) override { Q_EMIT DragStarts(); }
     void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                      const QList<int>& roles) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

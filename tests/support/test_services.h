@@ -223,6 +223,14 @@ public:
         log.push_back("run " + command);
         return false;
     }
+    bool StartProgram(const std::vector<std::string>& words) override
+    {
+        std::string line;
+        for (const std::string& word : words)
+            line += '[' + word + ']';
+        log.push_back("start " + line);
+        return true;
+    }
     bool ShellExecute(const std::string&) override { return false; }
     std::vector<platform::Volume> Volumes() override { return {}; }
 };

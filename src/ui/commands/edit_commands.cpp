@@ -9,8 +9,15 @@ namespace ui
 
 CEditCommands::CEditCommands(CCommandRouter& router, CMainFrame& frame)
 {
+    using app::CommandId;
     using enum app::CommandId;
-    router.On(copy, [&frame] { frame.List()->CopySelection(); });
+    router.On(undo, [&frame] { frame.Files()->Undo(); });
+    router.On(copy, [&frame] { frame.Files()->Copy(); });
+    router.On(cut, [&frame] { frame.Files()->Cut(); });
+    router.On(paste, [&frame] { frame.Files()->Paste(); });
+    router.On(CommandId::remove, [&frame] { frame.Files()->Delete(); });
+    router.On(CommandId::rename, [&frame] { frame.Files()->Rename(); });
+    router.On(newFolder, [&frame] { frame.Files()->NewFolder(); });
     router.On(selectAll, [&frame] { frame.List()->SelectAll(); });
     router.On(selectNone, [&frame] { frame.List()->SelectNone(); });
     router.On(invertSelection, [&frame] { frame.List()->InvertSelection(); });

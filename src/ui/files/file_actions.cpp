@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/files/file_actions.h"
+
+#include "browser/file_names.h"
+#include "platform/services.h"
+#include "ui/display_text.h"
+#include "ui/files/file_mime.h"
+#include "ui/files/name_editor.h"
+#include "ui/files/new_folder_dialog.h"
+#include "ui/files/report_box.h"
+#include "ui/ie_shell_list_ctrl.h"
+#include "ui/item_painter.h"
+#include "ui/left_view.h"
+#include "ui/theme.h"
+#include "ui/words.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace ui
+{
+
+namespace
+{
+
+using browser::FileTask;
+
+bool IsAtOrBelow(const std::string& path, const std::string& folder)
+{
+    return path == folder || path.starts_with(browser::JoinPath(folder, ""));
+}
+
+std::string FolderPath(const std::string& path)
+{
+    return std::string(browser::FolderOf(path));
+}
+
+}  // namespace
+
+CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow)
+    : QObject(&mainWindow), list(fileList), left(leftView), window(mainWindow), jobs(&mainWindow)
+{
+    connect(&jobs, &CFileJobs::Finished, this, &CFileActions::OnFinished);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+        if (!settingClipboard && !QGuiApplication::clipboard()->ownsClipboard())
+            SetFaded({});
+    });
+    WatchList();
+    for (CFolderTree* tree : left.Trees())
+        WatchTree(tree);
+    connect(&left, &CLeftView::TreeMade, this, &CFileActions::WatchTree);
+}
+
+bool CFileActions::IsInTree() const
+{
+    return left.isAncestorOf(window.focusWidget());
+}
+
+std::vector<std::string> CFileActions::Chosen() const
+{
+    if (!IsInTree())
+        return list.SelectedPaths();
+    const CFolderTree& tree = *left.Tree();
+    if (!tree.IsPlainFolder(tree.currentIndex()))
+        return {};
+    return {tree.Folder()};
+}
+
+std::string CFileActions::Receiver() const
+{
+    return IsInTree() ? left.Tree()->Folder() : list.List().Folder();
+}
+
+void CFileActions::Copy()
+{
+    Put(TransferKind::copy);
+}
+
+void CFileActions::Cut()
+{
+    Put(TransferKind::move);
+}
+
+void CFileActions::Put(TransferKind kind)
+{
+    // A place of the tree may be copied, but not taken away.
+    std::vector<std::string> paths = Chosen();
+    if (paths.empty() && kind == TransferKind::copy && IsInTree() && !left.Tree()->Folder().empty())
+        paths = {left.Tree()->Folder()};
+    if (paths.empty())
+        return;
+    settingClipboard = true;
+    QGuiApplication::clipboard()->setMimeData(MakeFileMime({kind, paths}));
+    settingClipboard = false;
+    SetFaded(kind == TransferKind::move ? std::set(paths.begin(), paths.end()) : std::set<std::string>());
+}
+
+void CFileActions::SetFaded(const std::set<std::string>& paths)
+{
+    if (paths == faded)
+        return;
+    faded = paths;
+    list.SetFaded(faded);
+}
+
+void CFileActions::Paste()
+{
+    PasteInto(Receiver());
+}
+
+void CFileActions::PasteInto(const std::string& folder)
+{
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    const QMimeData* data = clipboard.mimeData();
+    if (!data || folder.empty())
+        return;
+    if (!MayHoldFiles(*data))
+        return PastePicture(folder);
+    const FileTransfer transfer = ReadFileMime(*data);
+    Transfer(transfer, folder);
+    // What was cut is moved once.
+    if (transfer.kind == TransferKind::move) {
+        clipboard.clear();
+        SetFaded({});
+    }
+}
+
+void CFileActions::PastePicture(const std::string& folder)
+{
+    const QImage picture = QGuiApplication::clipboard()->image();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (picture.isNull() || !buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "BMP"))
+        return;
+    Start({FileTask::makePicture, {}, folder, {}, bytes.toStdString()});
+}
+
+void CFileActions::Transfer(const FileTransfer& transfer, const std::string& folder)
+{
+    if (transfer.paths.empty())
+        return;
+    const FileTask task = transfer.kind == TransferKind::move ? FileTask::move : FileTask::copy;
+    Start({task, transfer.paths, folder, {}, {}});
+}
+
+void CFileActions::Delete()
+{
+    if (std::vector<std::string> paths = Chosen(); !paths.empty())
+        Start({FileTask::trash, std::move(paths), {}, {}, {}});
+}
+
+void CFileActions::DeleteForGood()
+{
+    const std::vector<std::string> paths = Chosen();
+    if (paths.size() == 1)
+        AskToRemove(paths, Text(StringId::filesAskRemoveName, Shown(browser::FileName(paths.front()))));
+    else if (!paths.empty())
+        AskToRemove(paths, Counted(StringId::filesAskRemove, static_cast<qint64>(paths.size())));
+}
+
+void CFileActions::AskToRemove(const std::vector<std::string>& paths, const QString& question)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, Text(StringId::filesAskTitle), question,
+                                QMessageBox::NoButton, &window);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(Text(StringId::filesAskRemoveMore));
+    box->addButton(Text(StringId::filesAskRemoveButton), QMessageBox::AcceptRole);
+    QPushButton* keep = box->addButton(Text(StringId::filesCancel), QMessageBox::RejectRole);
+    box->setDefaultButton(keep);
+    box->setEscapeButton(keep);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QMessageBox::buttonClicked, this, [this, paths, keep](const QAbstractButton* pressed) {
+        if (pressed != keep)
+            Start({FileTask::remove, paths, {}, {}, {}});
+    });
+    box->open();
+}
+
+void CFileActions::Rename()
+{
+    if (IsInTree())
+        RenameInTree(*left.Tree(), left.Tree()->currentIndex());
+    else
+        RenameInList();
+}
+
+void CFileActions::RenameInList()
+{
+    QAbstractItemView& view = *list.View();
+    const QModelIndex current = view.currentIndex();
+    if (!current.isValid() || !view.selectionModel()->isSelected(current) ||
+        current.row() >= list.List().Count())
+        return;
+    view.scrollTo(current);
+    const QModelIndex index = current.siblingAtColumn(CMediaListModel::nameColumn);
+    QRect place = view.visualRect(index);
+    if (list.Style() == ViewStyle::thumbnails)
+        place = CItemPainter::NameBox(place);
+    else
+        place.adjust(view.isRightToLeft() ? 0 : 6 * kGrid, 0, view.isRightToLeft() ? -6 * kGrid : 0, 0);
+    RenameIn(view.viewport(), place, list.List().PathOf(index.row()));
+}
+
+void CFileActions::RenameInTree(CFolderTree& tree, const QModelIndex& folder)
+{
+    if (!tree.IsPlainFolder(folder))
+        return;
+    tree.scrollTo(folder);
+    QRect place = tree.visualRect(folder);
+    place.adjust(tree.isRightToLeft() ? 0 : 6 * kGrid, 0, tree.isRightToLeft() ? -6 * kGrid : 0, 0);
+    RenameIn(tree.viewport(), place, tree.PathOf(folder));
+}
+
+void CFileActions::RenameIn(QWidget* viewport, const QRect& place, const std::string& path)
+{
+    const auto facts = platform::Os().shell->FindEntry(path);
+    auto* editor =
+        new CNameEditor(std::string(browser::FileName(path)), facts && facts->isFolder, place, viewport);
+    const auto target = [path](const std::string& name) {
+        return browser::JoinPath(browser::FolderOf(path), name);
+    };
+    editor->objection = [target, facts](const std::string& name) {
+        const auto there = platform::Os().shell->FindEntry(target(name));
+        // Another spelling of the own name is there already on a file system that does not tell case.
+        const bool taken = there && !(facts && there->stamp == facts->stamp);
+        return taken ? Text(StringId::filesNameTaken, Shown(name)) : QString();
+    };
+    connect(editor, &CNameEditor::Accepted, this, [this, target, path](const std::string& name) {
+        Start({FileTask::rename, {path}, target(name), {}, {}});
+    });
+}
+
+void CFileActions::NewFolder()
+{
+    AskForFolder(Receiver());
+}
+
+void CFileActions::AskForFolder(const std::string& folder)
+{
+    if (folder.empty())
+        return;
+    auto* dialog = new CNewFolderDialog(folder, &window);
+    connect(dialog, &CNewFolderDialog::Chosen, this, [this](const std::string& path) {
+        Start({FileTask::makeFolder, {}, path, {}, {}});
+    });
+    dialog->open();
+}
+
+void CFileActions::Undo()
+{
+    if (auto record = undo.Take())
+        Start({FileTask::undo, {}, {}, std::move(*record), {}});
+    KeepUndo({});
+}
+
+void CFileActions::Start(browser::FileJobRequest request)
+{
+    const bool takesAway = request.task == FileTask::trash || request.task == FileTask::remove;
+    asked.push_back(
+        {request.sources, list.List().Folder(), takesAway ? list.NameAfterSelection() : std::string()});
+    jobs.Start(std::move(request));
+}
+
+void CFileActions::OnFinished(const browser::FileJobReport& report)
+{
+    const Asked about = std::move(asked.front());
+    asked.pop_front();
+    KeepUndo(report);
+    ShowChanges(report, about);
+    AskAboutNoTrash(report);
+    Q_EMIT Done(report);
+}
+
+void CFileActions::KeepUndo(const browser::FileJobReport& report)
+{
+    undo.Push(report.undo);
+    Q_EMIT UndoChanged(UndoText(undo.Latest()), undo.Latest() != nullptr);
+}
+
+void CFileActions::ShowChanges(const browser::FileJobReport& report, const Asked& about)
+{
+    const std::string folder = list.List().Folder();
+    std::vector<std::string> names;
+    for (const std::string& path : report.results) {
+        if (FolderPath(path) == folder)
+            names.emplace_back(browser::FileName(path));
+    }
+    if (names.empty() && !about.nameAfter.empty() && about.folderOnShow == folder)
+        names = {about.nameAfter};
+    RefreshTrees(report, about);
+    // The folder on show may itself have moved or gone, or one above it.
+    for (const browser::UndoStep& step : report.undo.steps) {
+        if (!step.origin.empty() && IsAtOrBelow(folder, step.origin) &&
+            !platform::Os().shell->FindEntry(folder)) {
+            const bool moved = step.action == browser::UndoAction::moveBack;
+            const std::string place =
+                moved ? step.path + folder.substr(step.origin.size()) : FolderPath(step.origin);
+            Q_EMIT FolderMoved(place);
+            return;
+        }
+    }
+    for (const std::string& source : about.sources) {
+        if (IsAtOrBelow(folder, source) && !platform::Os().shell->FindEntry(folder)) {
+            Q_EMIT FolderMoved(FolderPath(source));
+            return;
+        }
+    }
+    list.RefreshSelecting(names);
+}
+
+void CFileActions::RefreshTrees(const browser::FileJobReport& report, const Asked& about)
+{
+    std::set<std::string> folders;
+    for (const std::string& path : report.results)
+        folders.insert(FolderPath(path));
+    for (const std::string& path : about.sources)
+        folders.insert(FolderPath(path));
+    for (const browser::UndoStep& step : report.undo.steps) {
+        folders.insert(FolderPath(step.path));
+        folders.insert(FolderPath(step.origin));
+    }
+    for (CFolderTree* tree : left.Trees()) {
+        for (const std::string& folder : folders)
+            tree->RefreshFolder(folder);
+    }
+}
+
+void CFileActions::AskAboutNoTrash(const browser::FileJobReport& report)
+{
+    std::vector<std::string> paths;
+    for (const platform::FileProblem& problem : report.problems) {
+        if (problem.failure == platform::FileFailure::noTrash)
+            paths.push_back(problem.path);
+    }
+    const bool onlyThose = report.task == FileTask::trash && paths.size() == report.problemCount;
+    if (onlyThose && !paths.empty())
+        AskToRemove(paths, Counted(StringId::filesAskNoTrash, static_cast<qint64>(paths.size())));
+    else
+        TellReport(&window, report);
+}
+
+}  // namespace ui

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CFileActions: what the user does with files and folders in the two panes.
+//
+// Commands go to the pane that has the focus: to the selected files of the list, or to the folder selected in
+// the tree. The work itself is done by CFileJobs; when a job is over, both panes are brought up to date, what
+// a person expects is selected, and what went wrong is told once.
+#pragma once
+
+#include "browser/undo_list.h"
+#include "ui/files/drop_handler.h"
+#include "ui/files/file_jobs.h"
+
+#include <deque>
+#include <set>
+
+class QMenu;
+
+namespace ui
+{
+
+class CFolderTree;
+class CIEShellListCtrl;
+class CLeftView;
+
+class CFileActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All must outlive the object.
+    CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow);
+
+    void Copy();
+    void Cut();
+    // Files, or a picture, which becomes a new file.
+    void Paste();
+    // To the trash.
+    void Delete();
+    // After a question.
+    void DeleteForGood();
+    // Of the current item, in place.
+    void Rename();
+    void NewFolder();
+    void Undo();
+
+    // Fill the context menus: of the list, and of a tree with the folder at `folder`.
+    void FillListMenu(QMenu& menu);
+    void FillTreeMenu(QMenu& menu, CFolderTree& tree, const QModelIndex& folder);
+
+    const CFileJobs& Jobs() const { return jobs; }
+
+Q_SIGNALS:
+    // What Undo would take back has changed.
+    void UndoChanged(const QString& text, bool possible);
+    // The folder on show is no longer where it was; this is the one to go to.
+    void FolderMoved(const std::string& path);
+    // What the jobs have done, for whoever keeps records by path.
+    void Done(const browser::FileJobReport& report);
+
+private:
+    // What a job was about, kept until its report comes.
+    struct Asked {
+        std::vector<std::string> sources;
+        std::string folderOnShow;
+        std::string nameAfter;  // selected when the sources are gone
+    };
+
+    bool IsInTree() const;
+    // The paths that a command is about, and the folder that receives what is pasted.
+    std::vector<std::string> Chosen() const;
+    std::string Receiver() const;
+    void Put(TransferKind kind);
+    void PasteInto(const std::string& folder);
+    void PastePicture(const std::string& folder);
+    void Transfer(const FileTransfer& transfer, const std::string& folder);
+    void AskToRemove(const std::vector<std::string>& paths, const QString& question);
+    void RenameIn(QWidget* viewport, const QRect& place, const std::string& path);
+    void RenameInList();
+    void RenameInTree(CFolderTree& tree, const QModelIndex& folder);
+    void AskForFolder(const std::string& folder);
+    void Start(browser::FileJobRequest request);
+    void OnFinished(const browser::FileJobReport& report);
+    void KeepUndo(const browser::FileJobReport& report);
+    void ShowChanges(const browser::FileJobReport& report, const Asked& asked);
+    void RefreshTrees(const browser::FileJobReport& report, const Asked& asked);
+    void AskAboutNoTrash(const browser::FileJobReport& report);
+    void WatchTree(CFolderTree* tree);
+    void WatchList();
+    void Drag(const std::vector<std::string>& paths, QWidget* from);
+    void FillOpenWith(QMenu& menu, const std::vector<std::string>& paths);
+    void SetFaded(const std::set<std::string>& paths);
+
+    CIEShellListCtrl& list;
+    CLeftView& left;
+    QWidget& window;
+    CFileJobs jobs;
+    browser::CUndoList undo;
+    std::deque<Asked> asked;
+    std::set<std::string> faded;
+    bool settingClipboard = false;
+};
+
+}  // namespace ui

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/files/report_box.h"
+
+#include "browser/file_names.h"
+#include "ui/display_text.h"
+#include "ui/words.h"
+
+#include <QMessageBox>
+
+namespace ui
+{
+
+namespace
+{
+
+constexpr std::size_t kMostLines = 8;
+
+using browser::FileTask;
+using platform::FileFailure;
+
+QString Reason(const platform::FileProblem& problem)
+{
+    switch (problem.failure) {
+    case FileFailure::missing:
+        return Text(StringId::filesBecauseMissing);
+    case FileFailure::nameTaken:
+        return Text(StringId::filesBecauseTaken);
+    case FileFailure::itself:
+        return Text(StringId::filesBecauseItself);
+    case FileFailure::intoItself:
+        return Text(StringId::filesBecauseIntoItself);
+    case FileFailure::noPermission:
+        return Text(StringId::filesBecauseForbidden);
+    case FileFailure::noRoom:
+        return Text(StringId::filesBecauseNoRoom);
+    case FileFailure::badName:
+        return Text(StringId::filesBecauseBadName);
+    case FileFailure::noTrash:
+        return Text(StringId::filesBecauseNoTrash);
+    case FileFailure::changed:
+        return Text(StringId::filesBecauseChanged);
+    default:
+        return Shown(problem.reason);
+    }
+}
+
+QString Heading(FileTask task, qint64 count)
+{
+    switch (task) {
+    case FileTask::copy:
+        return Counted(StringId::filesNotCopied, count);
+    case FileTask::move:
+        return Counted(StringId::filesNotMoved, count);
+    case FileTask::trash:
+        return Counted(StringId::filesNotTrashed, count);
+    case FileTask::remove:
+        return Counted(StringId::filesNotRemoved, count);
+    case FileTask::rename:
+        return Text(StringId::filesNotRenamed);
+    case FileTask::makeFolder:
+        return Text(StringId::filesNoFolderMade);
+    case FileTask::makePicture:
+        return Text(StringId::filesNoFileMade);
+    case FileTask::undo:
+        return Counted(StringId::filesNotUndone, count);
+    }
+    return {};
+}
+
+QString Details(const browser::FileJobReport& report)
+{
+    QStringList lines;
+    for (std::size_t i = 0; i < report.problems.size() && i < kMostLines; ++i) {
+        const platform::FileProblem& problem = report.problems[i];
+        lines.append(
+            Text(StringId::filesProblemLine, Shown(browser::FileName(problem.path)), Reason(problem)));
+    }
+    if (report.problemCount > kMostLines)
+        lines.append(
+            Counted(StringId::filesMoreProblems, static_cast<qint64>(report.problemCount - kMostLines)));
+    lines.append(QString());
+    lines.append(Text(StringId::filesWereDone, QString::number(report.done), QString::number(report.items)));
+    if (report.skipped > 0)
+        lines.append(Text(StringId::filesWereSkipped, QString::number(report.skipped)));
+    if (report.cancelled)
+        lines.append(Text(StringId::filesWasCancelled));
+    return lines.join(QLatin1Char('\n'));
+}
+
+}  // namespace
+
+void TellReport(QWidget* parent, const browser::FileJobReport& report)
+{
+    if (report.problemCount == 0)
+        return;
+    auto* box = new QMessageBox(QMessageBox::Warning, Text(StringId::filesReportTitle),
+                                Heading(report.task, static_cast<qint64>(report.problemCount)),
+                                QMessageBox::Ok, parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(Details(report));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+QString UndoText(const browser::UndoRecord* record)
+{
+    if (!record)
+        return Text(StringId::filesUndo);
+    const QString name = Shown(record->name);
+    const auto count = static_cast<qint64>(record->items);
+    const auto forms = [&](StringId one, StringId many) {
+        return count == 1 ? Text(one, name) : Counted(many, count);
+    };
+    switch (record->task) {
+    case FileTask::copy:
+        return forms(StringId::filesUndoCopyName, StringId::filesUndoCopy);
+    case FileTask::move:
+        return forms(StringId::filesUndoMoveName, StringId::filesUndoMove);
+    case FileTask::rename:
+        return Text(StringId::filesUndoRenameName, name);
+    case FileTask::makeFolder:
+        return Text(StringId::filesUndoFolderName, name);
+    case FileTask::makePicture:
+        return Text(StringId::filesUndoPasteName, name);
+    default:
+        return forms(StringId::filesUndoDeleteName, StringId::filesUndoDelete);
+    }
+}
+
+}  // namespace ui
