@@ -68,10 +68,10 @@ private:
     {
         const std::size_t before = report.problemCount;
         const std::size_t skippedBefore = report.skipped;
+        isTop = true;
         switch (request.task) {
         case FileTask::copy:
         case FileTask::move:
-            isTop = true;
             Transfer(source, JoinPath(request.target, FileName(source)));
             break;
         case FileTask::rename:

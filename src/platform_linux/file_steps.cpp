@@ -106,7 +106,7 @@ platform::FileStepResult DoStep(platform::FileStep step)
     if (!IsNamed(step.source) || (!step.target.empty() && !IsNamed(step.target)))
         Fail(EINVAL);
     else if (wasTaken && needsFree)
-        Fail(EEXIST);
+        Fail(EntryAt(step.source) ? EEXIST : LastFailure());
     else
         result.done = Run(step, log, result.target);
     const int reason = result.done ? 0 : LastFailure();

@@ -79,14 +79,14 @@ protected:
 
     FileJobReport Run(FileTask task, const std::vector<std::string>& names, const std::string& target = {})
     {
-        browser::FileJobRequest request{task, {}, target.empty() ? target : folder.Path(target), {}};
+        browser::FileJobRequest request{task, {}, target.empty() ? target : folder.Path(target), {}, {}};
         for (const std::string& name : names)
             request.sources.push_back(folder.Path(name));
         return browser::RunFileJob(request, host);
     }
     FileJobReport Undo(const UndoRecord& record)
     {
-        return browser::RunFileJob({FileTask::undo, {}, {}, record}, host);
+        return browser::RunFileJob({FileTask::undo, {}, {}, record, {}}, host);
     }
     // Every file below the test's folder with its bytes, and every folder with "/"; the trash left out.
     std::vector<std::string> Files() const
@@ -317,6 +317,7 @@ TEST_F(FileJob, RenamesMakesAndRemovesFoldersAndUndoesThem)
     const FileJobReport refused = Run(FileTask::rename, {"a/F"}, "a/g");
     const FileJobReport made = Run(FileTask::makeFolder, {}, "a/new");
     const FileJobReport again = Run(FileTask::makeFolder, {}, "a/g");
+    EXPECT_THAT(renamed.results, ElementsAre(folder.Path("a/F")));
     EXPECT_THAT(Failures(refused), ElementsAre(Failure("F", FileFailure::nameTaken)));
     EXPECT_THAT(Failures(again), ElementsAre(Failure("g", FileFailure::nameTaken)));
     EXPECT_THAT(Files(), UnorderedElementsAre("a/", "b/", "a/F=x", "a/g=y", "a/new/"));
@@ -367,7 +368,7 @@ TEST_F(FileJob, StopsWhereItIsToldToAndKeepsTheWayBack)
 
     // Within the second file: it is not there at all, and its source still is.
     host.callsUntilStop = 6;
-    const FileJobReport report = browser::RunFileJob({FileTask::move, sources, other.Path(), {}}, host);
+    const FileJobReport report = browser::RunFileJob({FileTask::move, sources, other.Path(), {}, {}}, host);
     EXPECT_TRUE(report.cancelled);
     EXPECT_TRUE(fs::exists(other.Path("1")) && !fs::exists(other.Path("2")) && !fs::exists(sources[0]));
     EXPECT_EQ(ReadBytes(sources[1]), bytes);
@@ -424,7 +425,7 @@ TEST_F(FileJob, AFullDiskLeavesNoHalfWrittenFileAndNoLostSource)
         const auto to = [&](FileTask task, std::vector<std::string> names) {
             for (std::string& name : names)
                 name = folder.Path(name);
-            return browser::RunFileJob({task, names, disk, {}}, host);
+            return browser::RunFileJob({task, names, disk, {}, {}}, host);
         };
         const FileJobReport moved = to(FileTask::move, {"a/d"});
         const bool back = Failures(moved) == std::vector{Failure("2", FileFailure::noRoom)} &&

@@ -262,8 +262,9 @@ void CFileActions::Undo()
 void CFileActions::Start(browser::FileJobRequest request)
 {
     const bool takesAway = request.task == FileTask::trash || request.task == FileTask::remove;
-    asked.push_back(
-        {request.sources, list.List().Folder(), takesAway ? list.NameAfterSelection() : std::string()});
+    const bool fromList = takesAway && request.sources == list.SelectedPaths();
+    asked.push_back({request.sources, list.List().Folder(),
+                     fromList ? list.NameAfterSelection() : std::string(), request.record});
     jobs.Start(std::move(request));
 }
 
@@ -294,24 +295,36 @@ void CFileActions::ShowChanges(const browser::FileJobReport& report, const Asked
     if (names.empty() && !about.nameAfter.empty() && about.folderOnShow == folder)
         names = {about.nameAfter};
     RefreshTrees(report, about);
-    // The folder on show may itself have moved or gone, or one above it.
+    if (const std::string place = NewPlaceOf(folder, report, about); place != folder)
+        Q_EMIT FolderMoved(place);
+    else
+        list.RefreshSelecting(names);
+}
+
+// Where the folder on show is now that it, or one above it, may have been moved or taken away.
+std::string CFileActions::NewPlaceOf(const std::string& folder, const browser::FileJobReport& report,
+                                     const Asked& about) const
+{
+    if (folder.empty() || platform::Os().shell->FindEntry(folder))
+        return folder;
+    const auto moved = [&folder](const std::string& from, const std::string& to) {
+        return !from.empty() && IsAtOrBelow(folder, from) ? to + folder.substr(from.size()) : std::string();
+    };
     for (const browser::UndoStep& step : report.undo.steps) {
-        if (!step.origin.empty() && IsAtOrBelow(folder, step.origin) &&
-            !platform::Os().shell->FindEntry(folder)) {
-            const bool moved = step.action == browser::UndoAction::moveBack;
-            const std::string place =
-                moved ? step.path + folder.substr(step.origin.size()) : FolderPath(step.origin);
-            Q_EMIT FolderMoved(place);
-            return;
-        }
+        const std::string place = moved(step.origin, step.path);
+        if (!place.empty() && step.action == browser::UndoAction::moveBack)
+            return place;
+    }
+    for (const browser::UndoStep& step : about.undoing.steps) {
+        const std::string place = moved(step.path, step.origin);
+        if (!place.empty())
+            return step.origin.empty() ? FolderPath(step.path) : place;
     }
     for (const std::string& source : about.sources) {
-        if (IsAtOrBelow(folder, source) && !platform::Os().shell->FindEntry(folder)) {
-            Q_EMIT FolderMoved(FolderPath(source));
-            return;
-        }
+        if (IsAtOrBelow(folder, source))
+            return FolderPath(source);
     }
-    list.RefreshSelecting(names);
+    return folder;
 }
 
 void CFileActions::RefreshTrees(const browser::FileJobReport& report, const Asked& about)
@@ -321,9 +334,11 @@ void CFileActions::RefreshTrees(const browser::FileJobReport& report, const Aske
         folders.insert(FolderPath(path));
     for (const std::string& path : about.sources)
         folders.insert(FolderPath(path));
-    for (const browser::UndoStep& step : report.undo.steps) {
-        folders.insert(FolderPath(step.path));
-        folders.insert(FolderPath(step.origin));
+    for (const auto* steps : {&report.undo.steps, &about.undoing.steps}) {
+        for (const browser::UndoStep& step : *steps) {
+            folders.insert(FolderPath(step.path));
+            folders.insert(FolderPath(step.origin));
+        }
     }
     for (CFolderTree* tree : left.Trees()) {
         for (const std::string& folder : folders)

@@ -63,7 +63,8 @@ private:
     struct Asked {
         std::vector<std::string> sources;
         std::string folderOnShow;
-        std::string nameAfter;  // selected when the sources are gone
+        std::string nameAfter;        // selected when the sources are gone
+        browser::UndoRecord undoing;  // what is taken back
     };
 
     bool IsInTree() const;
@@ -83,6 +84,8 @@ private:
     void OnFinished(const browser::FileJobReport& report);
     void KeepUndo(const browser::FileJobReport& report);
     void ShowChanges(const browser::FileJobReport& report, const Asked& asked);
+    std::string NewPlaceOf(const std::string& folder, const browser::FileJobReport& report,
+                           const Asked& asked) const;
     void RefreshTrees(const browser::FileJobReport& report, const Asked& asked);
     void AskAboutNoTrash(const browser::FileJobReport& report);
     void WatchTree(CFolderTree* tree);

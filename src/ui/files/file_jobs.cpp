@@ -18,7 +18,7 @@ constexpr int kPatience = 500;  // milliseconds before a job is shown
 constexpr int kRefresh = 100;
 }  // namespace
 
-CFileJobs::CFileJobs(QWidget* window) : QObject(window), owner(window)
+CFileJobs::CFileJobs(QWidget* window) : owner(window)
 {
     patience.setSingleShot(true);
     patience.setInterval(kPatience);
@@ -89,9 +89,9 @@ bool CFileJobs::Progress(const browser::FileJobProgress& progress)
 
 browser::ClashReply CFileJobs::AskAboutClash(const browser::Clash& clash)
 {
-    QMetaObject::invokeMethod(this, [this, clash] { Ask(clash); });
     std::unique_lock lock(mutex);
     reply.reset();
+    QMetaObject::invokeMethod(this, [this, clash] { Ask(clash); });
     changed.wait(lock, [this] { return reply || cancelled; });
     return reply.value_or(browser::ClashReply{});
 }
