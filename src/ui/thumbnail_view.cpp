@@ -3,6 +3,7 @@
 #include "ui/thumbnail_view.h"
 
 #include "browser/list_settings.h"
+#include "ui/media_list_model.h"
 #include "ui/style.h"
 #include "ui/theme.h"
 #include "ui/words.h"

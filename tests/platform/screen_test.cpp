@@ -25,7 +25,7 @@ protected:
     int requests = 0;
 
     // The next request is answered with this response and the file's address.
-    void AnswerWith(int response, const std::string& address)
+    void AnswerWith(int response, const std::string& uri)
     {
         const QString sender = Bus().baseService().mid(1).replace('.', '_');
         const QString request = kPath + QString("/request/%1/kelvo%2").arg(sender).arg(++requests);
@@ -35,7 +35,7 @@ protected:
                                      "ret = dbus.ObjectPath('%1')")
                                  .arg(request, kRequest)
                                  .arg(response)
-                                 .arg(QString::fromStdString(address));
+                                 .arg(QString::fromStdString(uri));
         Call(kPortal, kPath, "AddMethod", {kScreenshot, "Screenshot", "sa{sv}", "o", code});
     }
     // The size of the picture taken, as "WIDTHxHEIGHT"; "none" for no picture.
@@ -70,8 +70,8 @@ TEST_F(Screen, ThePortalsPictureIsTakenAndItsFileRemovedAndARefusalIsNoPicture)
     AnswerWith(0, "file://" + services.folder.Path("Screenshot%20from%20today.png"));
     EXPECT_EQ(Take(screen), "none");
     EXPECT_TRUE(std::filesystem::exists(file));
-    for (const auto& [response, address] : {std::pair{1, "file:///x"}, {0, "https://host/x.png"}, {0, ""}}) {
-        AnswerWith(response, address);
-        EXPECT_EQ(Take(screen), "none") << address;
+    for (const auto& [response, uri] : {std::pair{1, "file:///x"}, {0, "https://host/x.png"}, {0, ""}}) {
+        AnswerWith(response, uri);
+        EXPECT_EQ(Take(screen), "none") << uri;
     }
 }

@@ -78,7 +78,7 @@ TEST_F(WatchTest, FilesAppearChangeAndVanishByThemselves)
     View().setAutoScroll(false);
     Select({"photo7.jpg", "photo199.jpg"});
     Settle();
-    const auto rendered = [this] { return services.images.rendered; };
+    const auto rendered = [this] { return services.images.rendered.load(); };
     const int before = rendered();
 
     Add("photo9999.jpg");

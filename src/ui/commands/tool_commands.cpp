@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/commands/tool_commands.h"
 
-#include "browser/file_names.h"
 #include "platform/file_system.h"
 #include "ui/dialogs/options_dialog.h"
 #include "ui/dialogs/select_source_dialog.h"
