@@ -60,9 +60,9 @@ std::array<std::string, kButtonStates> StateImageFiles(const std::string& skinFo
     std::array<std::string, kButtonStates> files;
     const std::string path = SkinFilePath(skinFolder, image);
     if (!path.empty()) {
-        const auto [stem, extension] = Split(path);
+        const auto parts = Split(path);
         std::transform(kSuffixes.begin(), kSuffixes.end(), files.begin(),
-                       [&](const char* suffix) { return stem + suffix + extension; });
+                       [&](const char* suffix) { return parts.stem + suffix + parts.extension; });
     }
     return files;
 }

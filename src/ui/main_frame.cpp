@@ -217,18 +217,6 @@ void CMainFrame::SendMessage(app::FrameMessage message, std::int64_t lParam)
     }
 }
 
-std::vector<std::string> CMainFrame::SelectedPaths() const
-{
-    std::vector<std::string> paths;
-    const QItemSelectionModel& selection = *List()->View()->selectionModel();
-    const int rows = selection.hasSelection() ? List()->List().Count() : 0;
-    for (int row = 0; row < rows; ++row) {
-        if (selection.isSelected(selection.model()->index(row, 0)))
-            paths.push_back(List()->List().PathOf(row));
-    }
-    return paths;
-}
-
 void CMainFrame::Tell(const QString& text, const QString& title)
 {
     auto* box = new QMessageBox(QMessageBox::Information, title.isEmpty() ? windowTitle() : title, text,

@@ -14,9 +14,9 @@
 #include "ui/commands/help_commands.h"
 #include "ui/commands/tool_commands.h"
 #include "ui/commands/view_commands.h"
+#include "ui/files/file_actions.h"
 #include "ui/frame/context_menus.h"
 #include "ui/frame/frame_bars.h"
-#include "ui/files/file_actions.h"
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
@@ -49,8 +49,6 @@ public:
     void Tell(const QString& text, const QString& title = {});
     // The panes' private messages.
     void SendMessage(app::FrameMessage message, std::int64_t lParam = 0);
-    // The files and folders selected in the list, in its order.
-    std::vector<std::string> SelectedPaths() const;
 
     const app::CKelvoApp& Application() const { return owner; }
     app::CDataFolders& Folders() const { return folders; }

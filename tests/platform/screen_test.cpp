@@ -24,7 +24,7 @@ protected:
     std::string file = services.folder.Path("Screenshot from today.png");
     int requests = 0;
 
-    // The next request is answered with this response and the file's address.
+    // The next request is answered with this response and the file's URI.
     void AnswerWith(int response, const std::string& uri)
     {
         const QString sender = Bus().baseService().mid(1).replace('.', '_');

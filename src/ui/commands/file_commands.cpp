@@ -17,7 +17,7 @@ namespace
 
 void Print(CMainFrame& frame)
 {
-    switch (app::StartPrinting(frame.Application().ProgramFolder(), frame.SelectedPaths())) {
+    switch (app::StartPrinting(frame.Application().ProgramFolder(), frame.List()->SelectedPaths())) {
     case app::StartedProgram::started:
         // Until the suite says that the program has ended.
         frame.setEnabled(false);
@@ -36,7 +36,7 @@ void Print(CMainFrame& frame)
 
 void ShowProperties(CMainFrame& frame)
 {
-    std::vector<std::string> paths = frame.SelectedPaths();
+    std::vector<std::string> paths = frame.List()->SelectedPaths();
     const bool inLeftPane = frame.LeftView()->isAncestorOf(frame.focusWidget());
     if ((paths.empty() || inLeftPane) && !frame.LeftView()->Folder().empty())
         paths = {frame.LeftView()->Folder()};

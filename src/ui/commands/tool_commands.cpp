@@ -63,7 +63,7 @@ void CToolCommands::TrimVideo()
 
 void CToolCommands::ShowSlides()
 {
-    if (app::HasClips(frame.SelectedPaths()))
+    if (app::HasClips(frame.List()->SelectedPaths()))
         frame.Tell(Text(StringId::suiteNoClips), Text(StringId::suiteWarning));
     else if (!frame.Pages()->ShowSlides())
         frame.Tell(Text(StringId::suiteNoShow));

@@ -77,19 +77,18 @@ CSlideShow* CViewerPages::ShowSlides()
 {
     const browser::CMediaFileList& items = list->List();
     const QItemSelectionModel& selection = *list->View()->selectionModel();
-    std::vector<std::string> all;
-    std::vector<std::string> chosen;
+    const bool isOfSelection = list->SelectedPaths().size() > 1;
+    std::vector<std::string> paths;
     for (int row = 0; row < items.Count(); ++row) {
+        const browser::MediaItem& item = items.Item(row);
         // A clip's one frame makes no slide.
-        if (!browser::IsPicture(items.Item(row)) || (items.Item(row).types & browser::kTypeVideo) != 0)
-            continue;
-        all.push_back(items.PathOf(row));
-        if (selection.isSelected(list->View()->model()->index(row, 0)))
-            chosen.push_back(all.back());
+        const bool isSlide = browser::IsPicture(item) && (item.types & browser::kTypeVideo) == 0;
+        if (isSlide && (!isOfSelection || selection.isSelected(selection.model()->index(row, 0))))
+            paths.push_back(items.PathOf(row));
     }
     const int current = list->View()->currentIndex().row();
     const std::string first = current >= 0 && current < items.Count() ? items.PathOf(current) : std::string();
-    return StartSlideShow(chosen.size() > 1 ? std::move(chosen) : std::move(all), first, window());
+    return StartSlideShow(std::move(paths), first, window());
 }
 
 void CViewerPages::Close()

@@ -31,8 +31,8 @@ public:
     // Back to the list, at the item that was shown.
     void Close();
     bool IsViewing() const;
-    // Starts a slide show of the selected pictures or, when fewer than two are selected, of the whole folder
-    // from the current one on. Null when there is none.
+    // Starts a slide show of the selected pictures or, when fewer than two files are selected, of the whole
+    // folder from the current one on. Null when there is no picture.
     CSlideShow* ShowSlides();
     // Null until a picture is first shown.
     CPictureViewer* Viewer() const { return viewer; }
