@@ -46,7 +46,7 @@ double Median(std::vector<double> values)
 class CShownList
 {
 public:
-    explicit CShownList(const std::string& store) : list(store)
+    explicit CShownList(const std::string& store) : list(store, {})
     {
         timer.setInterval(10);
         QObject::connect(&timer, &QTimer::timeout, &list, [this] {

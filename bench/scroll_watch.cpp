@@ -119,7 +119,7 @@ int main(int argc, char** argv)
     frame.resize(1280, 800);
     frame.show();
     const bool details = argc > 2 && std::string_view(argv[2]) == "details";
-    frame.Run(details ? app::CommandId::details : app::CommandId::thumbnails);
+    frame.Router().Run(details ? app::CommandId::details : app::CommandId::thumbnails);
     frame.GoTo(argv[1]);
     while (frame.List()->IsReading() || !frame.List()->IsScreenComplete())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
