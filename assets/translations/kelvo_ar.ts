@@ -3,9 +3,1079 @@
 <TS version="2.1" language="ar" sourcelanguage="en">
  <context>
   <name></name>
+  <message id="propertiesTitle">
+   <source>Properties of %1</source>
+   <translation type="unfinished">خصائص %1</translation>
+  </message>
+  <message id="propertiesPages">
+   <source>Pages</source>
+   <translation type="unfinished">الصفحات</translation>
+  </message>
+  <message id="propertiesGeneral">
+   <source>General</source>
+   <translation type="unfinished">عام</translation>
+  </message>
+  <message id="propertiesName">
+   <source>Name:</source>
+   <translation type="unfinished">الاسم:</translation>
+  </message>
+  <message id="propertiesFolder">
+   <source>Folder:</source>
+   <translation type="unfinished">المجلد:</translation>
+  </message>
+  <message id="propertiesKind">
+   <source>Kind:</source>
+   <translation type="unfinished">النوع:</translation>
+  </message>
+  <message id="propertiesPixels">
+   <source>Picture size:</source>
+   <translation type="unfinished">أبعاد الصورة:</translation>
+  </message>
+  <message id="propertiesSize">
+   <source>Size:</source>
+   <translation type="unfinished">الحجم:</translation>
+  </message>
+  <message id="propertiesContents">
+   <source>Contents:</source>
+   <translation type="unfinished">المحتويات:</translation>
+  </message>
+  <message id="propertiesCreated">
+   <source>Created:</source>
+   <translation type="unfinished">تاريخ الإنشاء:</translation>
+  </message>
+  <message id="propertiesChanged">
+   <source>Changed:</source>
+   <translation type="unfinished">تاريخ التغيير:</translation>
+  </message>
+  <message id="propertiesWidthAndHeight">
+   <source>%1 × %2 pixels</source>
+   <translation type="unfinished">%1 × %2 بكسل</translation>
+  </message>
+  <message id="propertiesSizeAndBytes">
+   <source>%1 (%2)</source>
+   <translation type="unfinished">%1 (%2)</translation>
+  </message>
+  <message id="propertiesBytes" numerus="yes">
+   <source>%1 bytes</source>
+   <translation type="unfinished">
+    <numerusform>%1 بايت</numerusform>
+    <numerusform>بايت واحد</numerusform>
+    <numerusform>بايتان</numerusform>
+    <numerusform>%1 بايتات</numerusform>
+    <numerusform>%1 بايتًا</numerusform>
+    <numerusform>%1 بايت</numerusform>
+   </translation>
+  </message>
+  <message id="propertiesSelected" numerus="yes">
+   <source>%1 selected items</source>
+   <translation type="unfinished">
+    <numerusform>%1 عنصر محدد</numerusform>
+    <numerusform>عنصر واحد محدد</numerusform>
+    <numerusform>عنصران محددان</numerusform>
+    <numerusform>%1 عناصر محددة</numerusform>
+    <numerusform>%1 عنصرًا محددًا</numerusform>
+    <numerusform>%1 عنصر محدد</numerusform>
+   </translation>
+  </message>
+  <message id="propertiesSeveralFolders">
+   <source>Several folders</source>
+   <translation type="unfinished">مجلدات متعددة</translation>
+  </message>
+  <message id="propertiesCounting">
+   <source>Still counting...</source>
+   <translation type="unfinished">ما زال العد جاريًا...</translation>
+  </message>
+  <message id="propertiesUnreadable" numerus="yes">
+   <source>%1 could not be read</source>
+   <translation type="unfinished">
+    <numerusform>تعذرت قراءة %1</numerusform>
+    <numerusform>تعذرت قراءة عنصر واحد</numerusform>
+    <numerusform>تعذرت قراءة عنصرين</numerusform>
+    <numerusform>تعذرت قراءة %1</numerusform>
+    <numerusform>تعذرت قراءة %1</numerusform>
+    <numerusform>تعذرت قراءة %1</numerusform>
+   </translation>
+  </message>
+  <message id="propertiesFromTo">
+   <source>%1 to %2</source>
+   <translation type="unfinished">من %1 إلى %2</translation>
+  </message>
+  <message id="propertiesGone">
+   <source>It is no longer there</source>
+   <translation type="unfinished">لم يعد موجودًا</translation>
+  </message>
+  <message id="optionsTitle">
+   <source>Options</source>
+   <translation type="unfinished">خيارات</translation>
+  </message>
+  <message id="optionsLeftPhotos">
+   <source>Photos on the camera, once they are copied</source>
+   <translation type="unfinished">الصور على الكاميرا بعد نسخها</translation>
+  </message>
+  <message id="optionsAsk">
+   <source>&amp;Ask what to do</source>
+   <translation type="unfinished">ا&amp;سأل ما العمل</translation>
+  </message>
+  <message id="optionsKeep">
+   <source>&amp;Keep them on the camera</source>
+   <translation type="unfinished">أب&amp;قها على الكاميرا</translation>
+  </message>
+  <message id="optionsDelete">
+   <source>&amp;Delete them from the camera</source>
+   <translation type="unfinished">ا&amp;حذفها من الكاميرا</translation>
+  </message>
+  <message id="optionsPort">
+   <source>Port of the handset</source>
+   <translation type="unfinished">منفذ الهاتف</translation>
+  </message>
+  <message id="optionsSearch">
+   <source>Search by number or name</source>
+   <translation type="unfinished">ابحث بالرقم أو بالاسم</translation>
+  </message>
+  <message id="optionsOnlyPresent">
+   <source>&amp;Only ports with something behind them</source>
+   <translation type="unfinished">المنافذ التي خلفها شيء &amp;فقط</translation>
+  </message>
+  <message id="optionsPortWith">
+   <source>%1: %2</source>
+   <translation type="unfinished">%1: %2</translation>
+  </message>
+  <message id="optionsPortAway">
+   <source>%1: %2 (not connected)</source>
+   <translation type="unfinished">%1: %2 (غير متصل)</translation>
+  </message>
+  <message id="optionsNamed">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1، %2</translation>
+  </message>
+  <message id="optionsNoPort">
+   <source>No port is chosen. Connect the handset's cable or adapter, open this window again and choose it here.</source>
+   <translation type="unfinished">لم يُختر أي منفذ. صِل كبل الهاتف أو المحوّل، ثم افتح هذه النافذة مجددًا واختره هنا.</translation>
+  </message>
+  <message id="optionsPortReady">
+   <source>The handset is looked for at this port.</source>
+   <translation type="unfinished">يُبحث عن الهاتف على هذا المنفذ.</translation>
+  </message>
+  <message id="optionsPortMissing">
+   <source>Nothing is connected at this port now.</source>
+   <translation type="unfinished">لا شيء متصل بهذا المنفذ الآن.</translation>
+  </message>
+  <message id="optionsPortNew">
+   <source>This adapter keeps the number from now on, whatever else is plugged in.</source>
+   <translation type="unfinished">يحتفظ هذا المحوّل بالرقم من الآن فصاعدًا، أيًا كان المتصل سواه.</translation>
+  </message>
+  <message id="optionsNotSaved">
+   <source>The options could not be saved. Your settings folder may be full or protected against changes.</source>
+   <translation type="unfinished">تعذر حفظ الخيارات. قد يكون مجلد إعداداتك ممتلئًا أو محميًا من التغيير.</translation>
+  </message>
+  <message id="sourceTitle">
+   <source>Select Source</source>
+   <translation type="unfinished">اختيار المصدر</translation>
+  </message>
+  <message id="sourceLooking">
+   <source>Looking for scanners and cameras...</source>
+   <translation type="unfinished">جارٍ البحث عن ماسحات وكاميرات...</translation>
+  </message>
+  <message id="sourceChoose">
+   <source>Pictures are acquired from:</source>
+   <translation type="unfinished">تُجلب الصور من:</translation>
+  </message>
+  <message id="sourceNone">
+   <source>No scanner or camera was found. Switch it on, connect it, and open this window again.</source>
+   <translation type="unfinished">لم يُعثر على ماسح ضوئي ولا كاميرا. شغّل الجهاز وصِله ثم افتح هذه النافذة مجددًا.</translation>
+  </message>
+  <message id="sourceCannotOpen">
+   <source>An error occurred while trying to open TWAIN Data Source.</source>
+   <translation type="unfinished">حدث خطأ أثناء محاولة فتح مصدر بيانات TWAIN.</translation>
+  </message>
+  <message id="sourceCannotOpenWhy">
+   <source>Scanners are reached through SANE, which is not installed or does not start.</source>
+   <translation type="unfinished">الوصول إلى الماسحات يتم عبر SANE، وهو غير مثبت أو لا يعمل.</translation>
+  </message>
+  <message id="commandRename">
+   <source>Rename</source>
+   <translation type="unfinished">إعادة تسمية</translation>
+  </message>
+  <message id="commandNewFolder">
+   <source>New Folder...</source>
+   <translation type="unfinished">مجلد جديد...</translation>
+  </message>
+  <message id="filesOpen">
+   <source>&amp;Open</source>
+   <translation type="unfinished">&amp;فتح</translation>
+  </message>
+  <message id="filesOpenWith">
+   <source>Open &amp;With</source>
+   <translation type="unfinished">فتح &amp;بواسطة</translation>
+  </message>
+  <message id="filesOpenWithNone">
+   <source>No program is known for this kind of file</source>
+   <translation type="unfinished">لا يُعرف برنامج لهذا النوع من الملفات</translation>
+  </message>
+  <message id="filesCut">
+   <source>Cu&amp;t</source>
+   <translation type="unfinished">&amp;قص</translation>
+  </message>
+  <message id="filesCopy">
+   <source>&amp;Copy</source>
+   <translation type="unfinished">&amp;نسخ</translation>
+  </message>
+  <message id="filesPaste">
+   <source>&amp;Paste</source>
+   <translation type="unfinished">&amp;لصق</translation>
+  </message>
+  <message id="filesRename">
+   <source>&amp;Rename</source>
+   <translation type="unfinished">إعادة &amp;تسمية</translation>
+  </message>
+  <message id="filesNewFolder">
+   <source>&amp;New Folder...</source>
+   <translation type="unfinished">مجلد &amp;جديد...</translation>
+  </message>
+  <message id="filesDelete">
+   <source>&amp;Delete</source>
+   <translation type="unfinished">&amp;حذف</translation>
+  </message>
+  <message id="filesDeleteForGood">
+   <source>Delete for &amp;Good</source>
+   <translation type="unfinished">حذف &amp;نهائي</translation>
+  </message>
+  <message id="filesRefresh">
+   <source>Re&amp;fresh</source>
+   <translation type="unfinished">ت&amp;حديث</translation>
+  </message>
+  <message id="filesUndo">
+   <source>Undo</source>
+   <translation type="unfinished">تراجع</translation>
+  </message>
+  <message id="filesUndoCopyName">
+   <source>Undo Copy of “%1”</source>
+   <translation type="unfinished">التراجع عن نسخ «%1»</translation>
+  </message>
+  <message id="filesUndoMoveName">
+   <source>Undo Move of “%1”</source>
+   <translation type="unfinished">التراجع عن نقل «%1»</translation>
+  </message>
+  <message id="filesUndoDeleteName">
+   <source>Undo Delete of “%1”</source>
+   <translation type="unfinished">التراجع عن حذف «%1»</translation>
+  </message>
+  <message id="filesUndoRenameName">
+   <source>Undo Rename of “%1”</source>
+   <translation type="unfinished">التراجع عن تسمية «%1»</translation>
+  </message>
+  <message id="filesUndoFolderName">
+   <source>Undo New Folder “%1”</source>
+   <translation type="unfinished">التراجع عن المجلد الجديد «%1»</translation>
+  </message>
+  <message id="filesUndoPasteName">
+   <source>Undo Paste of “%1”</source>
+   <translation type="unfinished">التراجع عن لصق «%1»</translation>
+  </message>
+  <message id="filesUndoCopy" numerus="yes">
+   <source>Undo Copy of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>التراجع عن نسخ %1 عنصر</numerusform>
+    <numerusform>التراجع عن نسخ عنصر واحد</numerusform>
+    <numerusform>التراجع عن نسخ عنصرين</numerusform>
+    <numerusform>التراجع عن نسخ %1 عناصر</numerusform>
+    <numerusform>التراجع عن نسخ %1 عنصرًا</numerusform>
+    <numerusform>التراجع عن نسخ %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="filesUndoMove" numerus="yes">
+   <source>Undo Move of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>التراجع عن نقل %1 عنصر</numerusform>
+    <numerusform>التراجع عن نقل عنصر واحد</numerusform>
+    <numerusform>التراجع عن نقل عنصرين</numerusform>
+    <numerusform>التراجع عن نقل %1 عناصر</numerusform>
+    <numerusform>التراجع عن نقل %1 عنصرًا</numerusform>
+    <numerusform>التراجع عن نقل %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="filesUndoDelete" numerus="yes">
+   <source>Undo Delete of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>التراجع عن حذف %1 عنصر</numerusform>
+    <numerusform>التراجع عن حذف عنصر واحد</numerusform>
+    <numerusform>التراجع عن حذف عنصرين</numerusform>
+    <numerusform>التراجع عن حذف %1 عناصر</numerusform>
+    <numerusform>التراجع عن حذف %1 عنصرًا</numerusform>
+    <numerusform>التراجع عن حذف %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="filesCopying" numerus="yes">
+   <source>Copying %1 items</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ نسخ %1 عنصر</numerusform>
+    <numerusform>جارٍ نسخ عنصر واحد</numerusform>
+    <numerusform>جارٍ نسخ عنصرين</numerusform>
+    <numerusform>جارٍ نسخ %1 عناصر</numerusform>
+    <numerusform>جارٍ نسخ %1 عنصرًا</numerusform>
+    <numerusform>جارٍ نسخ %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="filesMoving" numerus="yes">
+   <source>Moving %1 items</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ نقل %1 عنصر</numerusform>
+    <numerusform>جارٍ نقل عنصر واحد</numerusform>
+    <numerusform>جارٍ نقل عنصرين</numerusform>
+    <numerusform>جارٍ نقل %1 عناصر</numerusform>
+    <numerusform>جارٍ نقل %1 عنصرًا</numerusform>
+    <numerusform>جارٍ نقل %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="filesTrashing" numerus="yes">
+   <source>Moving %1 items to the trash</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ نقل %1 عنصر إلى المهملات</numerusform>
+    <numerusform>جارٍ نقل عنصر واحد إلى المهملات</numerusform>
+    <numerusform>جارٍ نقل عنصرين إلى المهملات</numerusform>
+    <numerusform>جارٍ نقل %1 عناصر إلى المهملات</numerusform>
+    <numerusform>جارٍ نقل %1 عنصرًا إلى المهملات</numerusform>
+    <numerusform>جارٍ نقل %1 عنصر إلى المهملات</numerusform>
+   </translation>
+  </message>
+  <message id="filesRemoving" numerus="yes">
+   <source>Deleting %1 items</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ حذف %1 عنصر</numerusform>
+    <numerusform>جارٍ حذف عنصر واحد</numerusform>
+    <numerusform>جارٍ حذف عنصرين</numerusform>
+    <numerusform>جارٍ حذف %1 عناصر</numerusform>
+    <numerusform>جارٍ حذف %1 عنصرًا</numerusform>
+    <numerusform>جارٍ حذف %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="filesRenaming">
+   <source>Renaming</source>
+   <translation type="unfinished">جارٍ إعادة التسمية</translation>
+  </message>
+  <message id="filesMakingFolder">
+   <source>Making a folder</source>
+   <translation type="unfinished">جارٍ إنشاء مجلد</translation>
+  </message>
+  <message id="filesMakingFile">
+   <source>Saving a picture</source>
+   <translation type="unfinished">جارٍ حفظ صورة</translation>
+  </message>
+  <message id="filesUndoing" numerus="yes">
+   <source>Taking back %1 changes</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ التراجع عن %1 تغيير</numerusform>
+    <numerusform>جارٍ التراجع عن تغيير واحد</numerusform>
+    <numerusform>جارٍ التراجع عن تغييرين</numerusform>
+    <numerusform>جارٍ التراجع عن %1 تغييرات</numerusform>
+    <numerusform>جارٍ التراجع عن %1 تغييرًا</numerusform>
+    <numerusform>جارٍ التراجع عن %1 تغيير</numerusform>
+   </translation>
+  </message>
+  <message id="filesWaiting" numerus="yes">
+   <source>%1 more jobs are waiting</source>
+   <translation type="unfinished">
+    <numerusform>%1 مهمة أخرى تنتظر</numerusform>
+    <numerusform>مهمة أخرى واحدة تنتظر</numerusform>
+    <numerusform>مهمتان أخريان تنتظران</numerusform>
+    <numerusform>%1 مهام أخرى تنتظر</numerusform>
+    <numerusform>%1 مهمة أخرى تنتظر</numerusform>
+    <numerusform>%1 مهمة أخرى تنتظر</numerusform>
+   </translation>
+  </message>
+  <message id="filesProgress">
+   <source>Progress</source>
+   <translation type="unfinished">التقدم</translation>
+  </message>
+  <message id="filesCancel">
+   <source>Cancel</source>
+   <translation type="unfinished">إلغاء</translation>
+  </message>
+  <message id="filesCancelling">
+   <source>Stopping...</source>
+   <translation type="unfinished">جارٍ الإيقاف...</translation>
+  </message>
+  <message id="filesClashTitle">
+   <source>Name taken</source>
+   <translation type="unfinished">الاسم مستخدم</translation>
+  </message>
+  <message id="filesClashFile">
+   <source>“%1” is already in “%2”.</source>
+   <translation type="unfinished">«%1» موجود بالفعل في «%2».</translation>
+  </message>
+  <message id="filesClashFolder">
+   <source>A folder “%1” is already in “%2”.</source>
+   <translation type="unfinished">يوجد مجلد باسم «%1» في «%2».</translation>
+  </message>
+  <message id="filesClashThere">
+   <source>There: %1</source>
+   <translation type="unfinished">الموجود: %1</translation>
+  </message>
+  <message id="filesClashComing">
+   <source>Coming: %1</source>
+   <translation type="unfinished">القادم: %1</translation>
+  </message>
+  <message id="filesClashFacts">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1، %2</translation>
+  </message>
+  <message id="filesClashForAll">
+   <source>Do the &amp;same for all others</source>
+   <translation type="unfinished">افعل ال&amp;مثل مع الباقي</translation>
+  </message>
+  <message id="filesClashSkip">
+   <source>&amp;Skip</source>
+   <translation type="unfinished">&amp;تخطٍ</translation>
+  </message>
+  <message id="filesClashReplace">
+   <source>&amp;Replace</source>
+   <translation type="unfinished">ا&amp;ستبدال</translation>
+  </message>
+  <message id="filesClashReplaceTip">
+   <source>The one that is there goes to the trash</source>
+   <translation type="unfinished">يذهب الموجود إلى المهملات</translation>
+  </message>
+  <message id="filesClashKeepBoth">
+   <source>&amp;Keep Both</source>
+   <translation type="unfinished">الا&amp;حتفاظ بالاثنين</translation>
+  </message>
+  <message id="filesClashKeepBothTip">
+   <source>The one that comes gets a number</source>
+   <translation type="unfinished">يُعطى القادم رقمًا</translation>
+  </message>
+  <message id="filesClashMerge">
+   <source>&amp;Merge</source>
+   <translation type="unfinished">&amp;دمج</translation>
+  </message>
+  <message id="filesClashMergeTip">
+   <source>What both folders hold is put together; nothing is replaced without asking</source>
+   <translation type="unfinished">تُجمع محتويات المجلدين، ولا يُستبدل شيء دون سؤال</translation>
+  </message>
+  <message id="filesAskTitle">
+   <source>Delete for good</source>
+   <translation type="unfinished">حذف نهائي</translation>
+  </message>
+  <message id="filesAskRemoveName">
+   <source>Delete “%1” for good?</source>
+   <translation type="unfinished">أتريد حذف «%1» نهائيًا؟</translation>
+  </message>
+  <message id="filesAskRemove" numerus="yes">
+   <source>Delete %1 items for good?</source>
+   <translation type="unfinished">
+    <numerusform>أتريد حذف %1 عنصر نهائيًا؟</numerusform>
+    <numerusform>أتريد حذف عنصر واحد نهائيًا؟</numerusform>
+    <numerusform>أتريد حذف عنصرين نهائيًا؟</numerusform>
+    <numerusform>أتريد حذف %1 عناصر نهائيًا؟</numerusform>
+    <numerusform>أتريد حذف %1 عنصرًا نهائيًا؟</numerusform>
+    <numerusform>أتريد حذف %1 عنصر نهائيًا؟</numerusform>
+   </translation>
+  </message>
+  <message id="filesAskRemoveMore">
+   <source>They cannot be brought back.</source>
+   <translation type="unfinished">لا يمكن استعادتها.</translation>
+  </message>
+  <message id="filesAskNoTrash" numerus="yes">
+   <source>%1 items cannot be put into the trash, for there is none on that medium. Delete them for good?</source>
+   <translation type="unfinished">
+    <numerusform>لا يمكن نقل %1 عنصر إلى المهملات، إذ لا مهملات على هذا الوسيط. أتريد الحذف نهائيًا؟</numerusform>
+    <numerusform>لا يمكن نقل عنصر واحد إلى المهملات، إذ لا مهملات على هذا الوسيط. أتريد حذفه نهائيًا؟</numerusform>
+    <numerusform>لا يمكن نقل عنصرين إلى المهملات، إذ لا مهملات على هذا الوسيط. أتريد حذفهما نهائيًا؟</numerusform>
+    <numerusform>لا يمكن نقل %1 عناصر إلى المهملات، إذ لا مهملات على هذا الوسيط. أتريد حذفها نهائيًا؟</numerusform>
+    <numerusform>لا يمكن نقل %1 عنصرًا إلى المهملات، إذ لا مهملات على هذا الوسيط. أتريد حذفها نهائيًا؟</numerusform>
+    <numerusform>لا يمكن نقل %1 عنصر إلى المهملات، إذ لا مهملات على هذا الوسيط. أتريد حذفها نهائيًا؟</numerusform>
+   </translation>
+  </message>
+  <message id="filesAskRemoveButton">
+   <source>Delete</source>
+   <translation type="unfinished">حذف</translation>
+  </message>
+  <message id="filesAskFolderTitle">
+   <source>New folder</source>
+   <translation type="unfinished">مجلد جديد</translation>
+  </message>
+  <message id="filesAskFolderName">
+   <source>Name of the new folder in “%1”:</source>
+   <translation type="unfinished">اسم المجلد الجديد في «%1»:</translation>
+  </message>
+  <message id="filesNewFolderName">
+   <source>New Folder</source>
+   <translation type="unfinished">مجلد جديد</translation>
+  </message>
+  <message id="filesCreate">
+   <source>Create</source>
+   <translation type="unfinished">إنشاء</translation>
+  </message>
+  <message id="filesNameLabel">
+   <source>New name</source>
+   <translation type="unfinished">الاسم الجديد</translation>
+  </message>
+  <message id="filesNameEmpty">
+   <source>A name is needed</source>
+   <translation type="unfinished">لا بد من اسم</translation>
+  </message>
+  <message id="filesNameForbidden">
+   <source>A name may not hold any of / \ : * ? " &lt; &gt; |</source>
+   <translation type="unfinished">لا يجوز أن يحوي الاسم أيًا من / \ : * ? " &lt; &gt; |</translation>
+  </message>
+  <message id="filesNameReserved">
+   <source>This name has a meaning of its own</source>
+   <translation type="unfinished">لهذا الاسم معنى خاص</translation>
+  </message>
+  <message id="filesNameTooLong">
+   <source>This name is too long</source>
+   <translation type="unfinished">هذا الاسم طويل جدًا</translation>
+  </message>
+  <message id="filesNameTaken">
+   <source>“%1” is already there</source>
+   <translation type="unfinished">«%1» موجود بالفعل</translation>
+  </message>
+  <message id="filesReportTitle">
+   <source>Not everything was done</source>
+   <translation type="unfinished">لم يتم كل شيء</translation>
+  </message>
+  <message id="filesNotCopied" numerus="yes">
+   <source>%1 items could not be copied.</source>
+   <translation type="unfinished">
+    <numerusform>تعذر نسخ %1 عنصر.</numerusform>
+    <numerusform>تعذر نسخ عنصر واحد.</numerusform>
+    <numerusform>تعذر نسخ عنصرين.</numerusform>
+    <numerusform>تعذر نسخ %1 عناصر.</numerusform>
+    <numerusform>تعذر نسخ %1 عنصرًا.</numerusform>
+    <numerusform>تعذر نسخ %1 عنصر.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotMoved" numerus="yes">
+   <source>%1 items could not be moved.</source>
+   <translation type="unfinished">
+    <numerusform>تعذر نقل %1 عنصر.</numerusform>
+    <numerusform>تعذر نقل عنصر واحد.</numerusform>
+    <numerusform>تعذر نقل عنصرين.</numerusform>
+    <numerusform>تعذر نقل %1 عناصر.</numerusform>
+    <numerusform>تعذر نقل %1 عنصرًا.</numerusform>
+    <numerusform>تعذر نقل %1 عنصر.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotTrashed" numerus="yes">
+   <source>%1 items could not be moved to the trash.</source>
+   <translation type="unfinished">
+    <numerusform>تعذر نقل %1 عنصر إلى المهملات.</numerusform>
+    <numerusform>تعذر نقل عنصر واحد إلى المهملات.</numerusform>
+    <numerusform>تعذر نقل عنصرين إلى المهملات.</numerusform>
+    <numerusform>تعذر نقل %1 عناصر إلى المهملات.</numerusform>
+    <numerusform>تعذر نقل %1 عنصرًا إلى المهملات.</numerusform>
+    <numerusform>تعذر نقل %1 عنصر إلى المهملات.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotRemoved" numerus="yes">
+   <source>%1 items could not be deleted.</source>
+   <translation type="unfinished">
+    <numerusform>تعذر حذف %1 عنصر.</numerusform>
+    <numerusform>تعذر حذف عنصر واحد.</numerusform>
+    <numerusform>تعذر حذف عنصرين.</numerusform>
+    <numerusform>تعذر حذف %1 عناصر.</numerusform>
+    <numerusform>تعذر حذف %1 عنصرًا.</numerusform>
+    <numerusform>تعذر حذف %1 عنصر.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotRenamed">
+   <source>The new name could not be given.</source>
+   <translation type="unfinished">تعذر إعطاء الاسم الجديد.</translation>
+  </message>
+  <message id="filesNoFolderMade">
+   <source>The folder could not be made.</source>
+   <translation type="unfinished">تعذر إنشاء المجلد.</translation>
+  </message>
+  <message id="filesNoFileMade">
+   <source>The picture could not be saved.</source>
+   <translation type="unfinished">تعذر حفظ الصورة.</translation>
+  </message>
+  <message id="filesNotUndone" numerus="yes">
+   <source>%1 changes could not be taken back.</source>
+   <translation type="unfinished">
+    <numerusform>تعذر التراجع عن %1 تغيير.</numerusform>
+    <numerusform>تعذر التراجع عن تغيير واحد.</numerusform>
+    <numerusform>تعذر التراجع عن تغييرين.</numerusform>
+    <numerusform>تعذر التراجع عن %1 تغييرات.</numerusform>
+    <numerusform>تعذر التراجع عن %1 تغييرًا.</numerusform>
+    <numerusform>تعذر التراجع عن %1 تغيير.</numerusform>
+   </translation>
+  </message>
+  <message id="filesWereDone">
+   <source>Done: %1 of %2.</source>
+   <translation type="unfinished">تم: %1 من %2.</translation>
+  </message>
+  <message id="filesWereSkipped">
+   <source>Left out as you chose: %1.</source>
+   <translation type="unfinished">تُرك كما اخترت: %1.</translation>
+  </message>
+  <message id="filesWasCancelled">
+   <source>You stopped it.</source>
+   <translation type="unfinished">لقد أوقفته.</translation>
+  </message>
+  <message id="filesProblemLine">
+   <source>%1: %2</source>
+   <translation type="unfinished">%1: %2</translation>
+  </message>
+  <message id="filesMoreProblems" numerus="yes">
+   <source>and %1 more</source>
+   <translation type="unfinished">
+    <numerusform>و%1 آخر</numerusform>
+    <numerusform>وواحد آخر</numerusform>
+    <numerusform>واثنان آخران</numerusform>
+    <numerusform>و%1 أخرى</numerusform>
+    <numerusform>و%1 آخر</numerusform>
+    <numerusform>و%1 آخر</numerusform>
+   </translation>
+  </message>
+  <message id="filesBecauseMissing">
+   <source>it is no longer there</source>
+   <translation type="unfinished">لم يعد موجودًا</translation>
+  </message>
+  <message id="filesBecauseTaken">
+   <source>its name is taken</source>
+   <translation type="unfinished">اسمه مستخدم</translation>
+  </message>
+  <message id="filesBecauseItself">
+   <source>it is there already</source>
+   <translation type="unfinished">هو هناك بالفعل</translation>
+  </message>
+  <message id="filesBecauseIntoItself">
+   <source>a folder can neither go into itself nor take the place of a folder that holds it</source>
+   <translation type="unfinished">لا يمكن وضع مجلد في نفسه ولا مكان مجلد يحويه</translation>
+  </message>
+  <message id="filesBecauseForbidden">
+   <source>you may not do that here</source>
+   <translation type="unfinished">لا يُسمح لك بذلك هنا</translation>
+  </message>
+  <message id="filesBecauseNoRoom">
+   <source>there is not enough room</source>
+   <translation type="unfinished">لا توجد مساحة كافية</translation>
+  </message>
+  <message id="filesBecauseBadName">
+   <source>this medium takes no such name</source>
+   <translation type="unfinished">هذا الوسيط لا يقبل اسمًا كهذا</translation>
+  </message>
+  <message id="filesBecauseNoTrash">
+   <source>there is no trash on this medium</source>
+   <translation type="unfinished">لا مهملات على هذا الوسيط</translation>
+  </message>
+  <message id="filesBecauseChanged">
+   <source>it has changed since</source>
+   <translation type="unfinished">تغير منذ ذلك الحين</translation>
+  </message>
+  <message id="filesDropCopy">
+   <source>Copy to “%1”</source>
+   <translation type="unfinished">نسخ إلى «%1»</translation>
+  </message>
+  <message id="filesDropMove">
+   <source>Move to “%1”</source>
+   <translation type="unfinished">نقل إلى «%1»</translation>
+  </message>
+  <message id="menuFile">
+   <source>File</source>
+   <translation type="unfinished">ملف</translation>
+  </message>
+  <message id="menuEdit">
+   <source>Edit</source>
+   <translation type="unfinished">تحرير</translation>
+  </message>
+  <message id="menuView">
+   <source>View</source>
+   <translation type="unfinished">عرض</translation>
+  </message>
+  <message id="menuThumbnailSize">
+   <source>Thumbnail Size</source>
+   <translation type="unfinished">حجم الصور المصغرة</translation>
+  </message>
+  <message id="menuFilter">
+   <source>Filter</source>
+   <translation type="unfinished">تصفية</translation>
+  </message>
+  <message id="menuSort">
+   <source>Sort</source>
+   <translation type="unfinished">فرز</translation>
+  </message>
+  <message id="menuTools">
+   <source>Tools</source>
+   <translation type="unfinished">أدوات</translation>
+  </message>
+  <message id="menuMobile">
+   <source>Mobile</source>
+   <translation type="unfinished">الهاتف</translation>
+  </message>
+  <message id="menuHelp">
+   <source>Help</source>
+   <translation type="unfinished">مساعدة</translation>
+  </message>
+  <message id="commandAcquire">
+   <source>Acquire...</source>
+   <translation type="unfinished">جلب صورة...</translation>
+  </message>
+  <message id="commandSelectSource">
+   <source>Select Source...</source>
+   <translation type="unfinished">اختيار المصدر...</translation>
+  </message>
+  <message id="commandCameraDownload">
+   <source>Camera Download...</source>
+   <translation type="unfinished">النسخ من الكاميرا...</translation>
+  </message>
+  <message id="commandPrint">
+   <source>Print...</source>
+   <translation type="unfinished">طباعة...</translation>
+  </message>
+  <message id="commandEMail">
+   <source>E-mail...</source>
+   <translation type="unfinished">بريد إلكتروني...</translation>
+  </message>
+  <message id="commandProperties">
+   <source>Properties...</source>
+   <translation type="unfinished">خصائص...</translation>
+  </message>
+  <message id="commandBackToTaskPanel">
+   <source>Back to Task Panel</source>
+   <translation type="unfinished">العودة إلى لوحة المهام</translation>
+  </message>
+  <message id="commandExit">
+   <source>Exit</source>
+   <translation type="unfinished">خروج</translation>
+  </message>
+  <message id="commandCopy">
+   <source>Copy</source>
+   <translation type="unfinished">نسخ</translation>
+  </message>
+  <message id="commandCut">
+   <source>Cut</source>
+   <translation type="unfinished">قص</translation>
+  </message>
+  <message id="commandPaste">
+   <source>Paste</source>
+   <translation type="unfinished">لصق</translation>
+  </message>
+  <message id="commandDelete">
+   <source>Delete</source>
+   <translation type="unfinished">حذف</translation>
+  </message>
+  <message id="commandSelectAll">
+   <source>Select All</source>
+   <translation type="unfinished">تحديد الكل</translation>
+  </message>
+  <message id="commandSelectNone">
+   <source>Select None</source>
+   <translation type="unfinished">إلغاء التحديد</translation>
+  </message>
+  <message id="commandInvertSelection">
+   <source>Invert Selection</source>
+   <translation type="unfinished">عكس التحديد</translation>
+  </message>
+  <message id="commandSearch">
+   <source>Search...</source>
+   <translation type="unfinished">بحث...</translation>
+  </message>
+  <message id="commandThumbnails">
+   <source>Thumbnails</source>
+   <translation type="unfinished">صور مصغرة</translation>
+  </message>
+  <message id="commandSmallIcons">
+   <source>Small Icons</source>
+   <translation type="unfinished">رموز صغيرة</translation>
+  </message>
+  <message id="commandList">
+   <source>List</source>
+   <translation type="unfinished">قائمة</translation>
+  </message>
+  <message id="commandDetails">
+   <source>Details</source>
+   <translation type="unfinished">تفاصيل</translation>
+  </message>
+  <message id="commandLarge">
+   <source>Large</source>
+   <translation type="unfinished">كبير</translation>
+  </message>
+  <message id="commandMedium">
+   <source>Medium</source>
+   <translation type="unfinished">متوسط</translation>
+  </message>
+  <message id="commandSmall">
+   <source>Small</source>
+   <translation type="unfinished">صغير</translation>
+  </message>
+  <message id="commandPhoto">
+   <source>Photo</source>
+   <translation type="unfinished">صور</translation>
+  </message>
+  <message id="commandVideo">
+   <source>Video</source>
+   <translation type="unfinished">فيديو</translation>
+  </message>
+  <message id="commandMedia">
+   <source>Media</source>
+   <translation type="unfinished">وسائط</translation>
+  </message>
+  <message id="commandAllFiles">
+   <source>All Files</source>
+   <translation type="unfinished">كل الملفات</translation>
+  </message>
+  <message id="commandIncludeFolder">
+   <source>Include Folder</source>
+   <translation type="unfinished">تضمين المجلدات</translation>
+  </message>
+  <message id="commandByName">
+   <source>By Name</source>
+   <translation type="unfinished">حسب الاسم</translation>
+  </message>
+  <message id="commandBySize">
+   <source>By Size</source>
+   <translation type="unfinished">حسب الحجم</translation>
+  </message>
+  <message id="commandByType">
+   <source>By Type</source>
+   <translation type="unfinished">حسب النوع</translation>
+  </message>
+  <message id="commandByModified">
+   <source>By Modified</source>
+   <translation type="unfinished">حسب تاريخ التعديل</translation>
+  </message>
+  <message id="commandByDateTaken">
+   <source>By Date Taken</source>
+   <translation type="unfinished">حسب تاريخ الالتقاط</translation>
+  </message>
+  <message id="commandAscending">
+   <source>Ascending</source>
+   <translation type="unfinished">تصاعدي</translation>
+  </message>
+  <message id="commandDescending">
+   <source>Descending</source>
+   <translation type="unfinished">تنازلي</translation>
+  </message>
+  <message id="commandDateTakenColumn">
+   <source>Date Taken Column</source>
+   <translation type="unfinished">عمود تاريخ الالتقاط</translation>
+  </message>
+  <message id="commandToolBar">
+   <source>Tool Bar</source>
+   <translation type="unfinished">شريط الأدوات</translation>
+  </message>
+  <message id="commandTaskPanel">
+   <source>Task Panel</source>
+   <translation type="unfinished">لوحة المهام</translation>
+  </message>
+  <message id="commandRefresh">
+   <source>Refresh</source>
+   <translation type="unfinished">تحديث</translation>
+  </message>
+  <message id="commandImageSize">
+   <source>Image Size</source>
+   <translation type="unfinished">حجم الصورة</translation>
+  </message>
+  <message id="commandPhotoTrim">
+   <source>Photo Trim</source>
+   <translation type="unfinished">قص الصورة</translation>
+  </message>
+  <message id="commandWhiteboardCleanUp">
+   <source>Whiteboard Clean-up</source>
+   <translation type="unfinished">تنظيف صورة السبورة</translation>
+  </message>
+  <message id="commandVideoTrim">
+   <source>Video Trim</source>
+   <translation type="unfinished">قص الفيديو</translation>
+  </message>
+  <message id="commandSlideShow">
+   <source>Slide Show</source>
+   <translation type="unfinished">عرض شرائح</translation>
+  </message>
+  <message id="commandScreenSaver">
+   <source>Screen Saver</source>
+   <translation type="unfinished">شاشة التوقف</translation>
+  </message>
+  <message id="commandScreenCapture">
+   <source>Screen Capture</source>
+   <translation type="unfinished">التقاط الشاشة</translation>
+  </message>
+  <message id="commandChangeTimeStamp">
+   <source>Change Time Stamp</source>
+   <translation type="unfinished">تغيير الطابع الزمني</translation>
+  </message>
+  <message id="commandUploadToPc">
+   <source>Upload to PC</source>
+   <translation type="unfinished">النقل إلى الحاسوب</translation>
+  </message>
+  <message id="commandDownloadToMobile">
+   <source>Download to Mobile</source>
+   <translation type="unfinished">النقل إلى الهاتف</translation>
+  </message>
+  <message id="commandMessageCenter">
+   <source>Message Center</source>
+   <translation type="unfinished">مركز الرسائل</translation>
+  </message>
+  <message id="commandPim">
+   <source>PIM</source>
+   <translation type="unfinished">PIM</translation>
+  </message>
+  <message id="commandMms">
+   <source>MMS</source>
+   <translation type="unfinished">MMS</translation>
+  </message>
+  <message id="commandSms">
+   <source>SMS</source>
+   <translation type="unfinished">SMS</translation>
+  </message>
+  <message id="commandOptions">
+   <source>Options...</source>
+   <translation type="unfinished">خيارات...</translation>
+  </message>
+  <message id="commandHelp">
+   <source>Help</source>
+   <translation type="unfinished">مساعدة</translation>
+  </message>
+  <message id="commandAbout">
+   <source>About</source>
+   <translation type="unfinished">حول</translation>
+  </message>
+  <message id="missingMail">
+   <source>Sending mail is not part of this version yet</source>
+   <translation type="unfinished">إرسال البريد ليس جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingEditors">
+   <source>The image editors are not part of this version yet</source>
+   <translation type="unfinished">محررات الصور ليست جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingScreenSaver">
+   <source>The screen saver is not part of this version yet</source>
+   <translation type="unfinished">شاشة التوقف ليست جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingTimeStamps">
+   <source>Changing time stamps is not part of this version yet</source>
+   <translation type="unfinished">تغيير الطوابع الزمنية ليس جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingHandset">
+   <source>Exchange with the handset is not part of this version yet</source>
+   <translation type="unfinished">التبادل مع الهاتف ليس جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingCamera">
+   <source>Taking photos over from a camera is not part of this version yet</source>
+   <translation type="unfinished">نسخ الصور من الكاميرا ليس جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingScanner">
+   <source>Taking pictures from a scanner is not part of this version yet</source>
+   <translation type="unfinished">جلب الصور من الماسح ليس جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="missingStyle">
+   <source>This view is not part of this version yet</source>
+   <translation type="unfinished">طريقة العرض هذه ليست جزءًا من هذا الإصدار بعد</translation>
+  </message>
+  <message id="aboutTitle">
+   <source>About</source>
+   <translation type="unfinished">حول</translation>
+  </message>
+  <message id="aboutVersion">
+   <source>%1 %2</source>
+   <translation type="unfinished">%1 %2</translation>
+  </message>
+  <message id="aboutWhat">
+   <source>A manager for photos and other media.</source>
+   <translation type="unfinished">مدير للصور والوسائط الأخرى.</translation>
+  </message>
+  <message id="suiteLaunchMms">
+   <source>Launch MMS</source>
+   <translation type="unfinished">تشغيل MMS</translation>
+  </message>
+  <message id="suiteLaunchSms">
+   <source>Launch SMS</source>
+   <translation type="unfinished">تشغيل SMS</translation>
+  </message>
+  <message id="suitePimError">
+   <source>Launch PIM Error</source>
+   <translation type="unfinished">Launch PIM Error</translation>
+  </message>
+  <message id="suitePimWhy">
+   <source>Contacts and calendar are kept by a part of the suite that is not installed.</source>
+   <translation type="unfinished">جهات الاتصال والتقويم يديرها جزء من الحزمة غير مثبت.</translation>
+  </message>
+  <message id="suiteNoLauncher">
+   <source>The suite's task panel is not installed.</source>
+   <translation type="unfinished">لوحة مهام الحزمة غير مثبتة.</translation>
+  </message>
+  <message id="suiteNoPictures">
+   <source>Select the pictures to print first.</source>
+   <translation type="unfinished">حدد أولاً الصور المراد طباعتها.</translation>
+  </message>
+  <message id="suiteNoPrinter">
+   <source>Printing needs the suite's print program, which is not installed.
+Pictures can be printed with the program that opens them: Open With in the list's menu.</source>
+   <translation type="unfinished">تحتاج الطباعة إلى برنامج الطباعة التابع للحزمة، وهو غير مثبت.
+يمكن طباعة الصور بالبرنامج الذي يفتحها: «فتح باستخدام» في قائمة العناصر.</translation>
+  </message>
+  <message id="suiteListNotWritten">
+   <source>The list of pictures for the print program could not be written: %1</source>
+   <translation type="unfinished">تعذرت كتابة قائمة الصور لبرنامج الطباعة: %1</translation>
+  </message>
+  <message id="suiteNoTrimmer">
+   <source>Trimming videos needs the suite's video program, which is not installed.</source>
+   <translation type="unfinished">يحتاج قص مقاطع الفيديو إلى برنامج الفيديو التابع للحزمة، وهو غير مثبت.</translation>
+  </message>
+  <message id="suiteTrimNotWritten">
+   <source>The video program's settings could not be written: %1</source>
+   <translation type="unfinished">تعذرت كتابة إعدادات برنامج الفيديو: %1</translation>
+  </message>
+  <message id="suiteNoClips">
+   <source>Don't support AVI and ASF format.</source>
+   <translation type="unfinished">صيغتا AVI وASF غير مدعومتين هنا.</translation>
+  </message>
+  <message id="suiteWarning">
+   <source>Warning</source>
+   <translation type="unfinished">تحذير</translation>
+  </message>
+  <message id="captureNothing">
+   <source>There is no other window to capture.</source>
+   <translation type="unfinished">لا توجد نافذة أخرى لالتقاطها.</translation>
+  </message>
+  <message id="captureNoFolder">
+   <source>Choose a folder on the left first: captured pictures are saved there.</source>
+   <translation type="unfinished">اختر أولاً مجلداً من الجهة الجانبية: تُحفظ الصور الملتقطة فيه.</translation>
+  </message>
+  <message id="captureNotSaved">
+   <source>The picture could not be taken or saved.</source>
+   <translation type="unfinished">تعذر التقاط الصورة أو حفظها.</translation>
+  </message>
+  <message id="propertiesNothing">
+   <source>Select the files whose properties you want to see first.</source>
+   <translation type="unfinished">حدد أولاً الملفات التي تريد رؤية خصائصها.</translation>
+  </message>
+  <message id="waitingQuestion">
+   <source>This window waits until the print program has ended.</source>
+   <translation type="unfinished">تنتظر هذه النافذة حتى ينتهي برنامج الطباعة.</translation>
+  </message>
+  <message id="waitingWait">
+   <source>&amp;Wait</source>
+   <translation type="unfinished">ا&amp;نتظار</translation>
+  </message>
+  <message id="waitingUse">
+   <source>&amp;Use It Now</source>
+   <translation type="unfinished">ا&amp;ستخدامها الآن</translation>
+  </message>
+  <message id="waitingClose">
+   <source>&amp;Close It</source>
+   <translation type="unfinished">إ&amp;غلاقها</translation>
+  </message>
+  <message id="suiteNoShow">
+   <source>There are no pictures here to show.</source>
+   <translation type="unfinished">لا توجد هنا صور لعرضها.</translation>
+  </message>
   <message id="listColumnHeadings">
    <source>Name|Size|Type|Modified</source>
    <translation type="unfinished">الاسم|الحجم|النوع|تاريخ التعديل</translation>
+  </message>
+  <message id="listDateTaken">
+   <source>Date Taken</source>
+   <translation type="unfinished">تاريخ الالتقاط</translation>
+  </message>
+  <message id="listStandardColumns">
+   <source>Standard Columns</source>
+   <translation type="unfinished">الأعمدة المعتادة</translation>
+  </message>
+  <message id="listSorting">
+   <source>Sorting: %1 of %2 files read</source>
+   <translation type="unfinished">فرز: قُرئ %1 من %2 ملف</translation>
   </message>
   <message id="listFiles">
    <source>Files</source>
@@ -66,6 +1136,10 @@
   <message id="kindSound">
    <source>%1 sound</source>
    <translation type="unfinished">صوت %1</translation>
+  </message>
+  <message id="kindSearchResult">
+   <source>Search result</source>
+   <translation type="unfinished">نتيجة بحث</translation>
   </message>
   <message id="tabDevice">
    <source>Device</source>
@@ -129,7 +1203,7 @@
   </message>
   <message id="skinTabSearchTip">
    <source>Find files (F3)</source>
-   <translation type="unfinished">البحث عن الملفات (F3)</translation>
+   <translation type="unfinished">البحث عن ملفات (F3)</translation>
   </message>
   <message id="skinLeaveSearch">
    <source>Changing folders will cancel your search. Are you sure you want to change folders?</source>
@@ -194,6 +1268,106 @@
   <message id="statusOneByte">
    <source>1 byte</source>
    <translation type="unfinished">بايت واحد</translation>
+  </message>
+  <message id="viewerBack">
+   <source>Back to the thumbnails</source>
+   <translation type="unfinished">العودة إلى الصور المصغرة</translation>
+  </message>
+  <message id="viewerPrevious">
+   <source>Previous picture</source>
+   <translation type="unfinished">الصورة السابقة</translation>
+  </message>
+  <message id="viewerNext">
+   <source>Next picture</source>
+   <translation type="unfinished">الصورة التالية</translation>
+  </message>
+  <message id="viewerZoomOut">
+   <source>Smaller</source>
+   <translation type="unfinished">أصغر</translation>
+  </message>
+  <message id="viewerZoomIn">
+   <source>Larger</source>
+   <translation type="unfinished">أكبر</translation>
+  </message>
+  <message id="viewerWhole">
+   <source>Whole picture</source>
+   <translation type="unfinished">الصورة كاملة</translation>
+  </message>
+  <message id="viewerPixels">
+   <source>Actual pixels</source>
+   <translation type="unfinished">البكسلات الفعلية</translation>
+  </message>
+  <message id="viewerFullScreen">
+   <source>Full screen</source>
+   <translation type="unfinished">ملء الشاشة</translation>
+  </message>
+  <message id="viewerLeaveFullScreen">
+   <source>Leave full screen</source>
+   <translation type="unfinished">مغادرة ملء الشاشة</translation>
+  </message>
+  <message id="viewerPlay">
+   <source>Play the clip</source>
+   <translation type="unfinished">تشغيل المقطع</translation>
+  </message>
+  <message id="viewerTip">
+   <source>%1 (%2)</source>
+   <translation type="unfinished">%1 (%2)</translation>
+  </message>
+  <message id="viewerPosition">
+   <source>%1 of %2</source>
+   <translation type="unfinished">%1 من %2</translation>
+  </message>
+  <message id="viewerSize">
+   <source>%1 × %2</source>
+   <translation type="unfinished">%1 × %2</translation>
+  </message>
+  <message id="viewerZoom">
+   <source>%1 %</source>
+   <translation type="unfinished">%1 %</translation>
+  </message>
+  <message id="viewerFewerPixels">
+   <source>shown with fewer pixels</source>
+   <translation type="unfinished">تُعرض ببكسلات أقل</translation>
+  </message>
+  <message id="viewerName">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1، %2</translation>
+  </message>
+  <message id="viewerClipName">
+   <source>%1, clip, %2</source>
+   <translation type="unfinished">%1، مقطع، %2</translation>
+  </message>
+  <message id="viewerBrokenName">
+   <source>%1, cannot be shown, %2</source>
+   <translation type="unfinished">%1، لا يمكن عرضها، %2</translation>
+  </message>
+  <message id="viewerBroken">
+   <source>This picture cannot be shown</source>
+   <translation type="unfinished">لا يمكن عرض هذه الصورة</translation>
+  </message>
+  <message id="viewerBrokenClip">
+   <source>There is no picture of this clip</source>
+   <translation type="unfinished">لا توجد صورة لهذا المقطع</translation>
+  </message>
+  <message id="viewerShow">
+   <source>Slide show</source>
+   <translation type="unfinished">عرض شرائح</translation>
+  </message>
+  <message id="viewerShowPaused">
+   <source>Paused</source>
+   <translation type="unfinished">متوقف</translation>
+  </message>
+  <message id="viewerShowRuns">
+   <source>A slide show is running</source>
+   <translation type="unfinished">يجري عرض شرائح</translation>
+  </message>
+  <message id="watchNotFollowed">
+   <source>Changes are not followed</source>
+   <translation type="unfinished">لا تُتابَع التغييرات</translation>
+  </message>
+  <message id="watchNotFollowedTip">
+   <source>What other programs change in this folder does not show by itself. Press F5 to read it again.</source>
+   <translation type="unfinished">ما تغيره البرامج الأخرى في هذا المجلد لا يظهر تلقائياً. اضغط F5 لقراءته من جديد.</translation>
   </message>
  </context>
 </TS>

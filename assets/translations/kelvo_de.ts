@@ -3,9 +3,999 @@
 <TS version="2.1" language="de" sourcelanguage="en">
  <context>
   <name></name>
+  <message id="propertiesTitle">
+   <source>Properties of %1</source>
+   <translation type="unfinished">Eigenschaften von %1</translation>
+  </message>
+  <message id="propertiesPages">
+   <source>Pages</source>
+   <translation type="unfinished">Seiten</translation>
+  </message>
+  <message id="propertiesGeneral">
+   <source>General</source>
+   <translation type="unfinished">Allgemein</translation>
+  </message>
+  <message id="propertiesName">
+   <source>Name:</source>
+   <translation type="unfinished">Name:</translation>
+  </message>
+  <message id="propertiesFolder">
+   <source>Folder:</source>
+   <translation type="unfinished">Ordner:</translation>
+  </message>
+  <message id="propertiesKind">
+   <source>Kind:</source>
+   <translation type="unfinished">Art:</translation>
+  </message>
+  <message id="propertiesPixels">
+   <source>Picture size:</source>
+   <translation type="unfinished">Bildgröße:</translation>
+  </message>
+  <message id="propertiesSize">
+   <source>Size:</source>
+   <translation type="unfinished">Größe:</translation>
+  </message>
+  <message id="propertiesContents">
+   <source>Contents:</source>
+   <translation type="unfinished">Inhalt:</translation>
+  </message>
+  <message id="propertiesCreated">
+   <source>Created:</source>
+   <translation type="unfinished">Erstellt:</translation>
+  </message>
+  <message id="propertiesChanged">
+   <source>Changed:</source>
+   <translation type="unfinished">Geändert:</translation>
+  </message>
+  <message id="propertiesWidthAndHeight">
+   <source>%1 × %2 pixels</source>
+   <translation type="unfinished">%1 × %2 Pixel</translation>
+  </message>
+  <message id="propertiesSizeAndBytes">
+   <source>%1 (%2)</source>
+   <translation type="unfinished">%1 (%2)</translation>
+  </message>
+  <message id="propertiesBytes" numerus="yes">
+   <source>%1 bytes</source>
+   <translation type="unfinished">
+    <numerusform>%1 Byte</numerusform>
+    <numerusform>%1 Bytes</numerusform>
+   </translation>
+  </message>
+  <message id="propertiesSelected" numerus="yes">
+   <source>%1 selected items</source>
+   <translation type="unfinished">
+    <numerusform>%1 ausgewähltes Element</numerusform>
+    <numerusform>%1 ausgewählte Elemente</numerusform>
+   </translation>
+  </message>
+  <message id="propertiesSeveralFolders">
+   <source>Several folders</source>
+   <translation type="unfinished">Mehrere Ordner</translation>
+  </message>
+  <message id="propertiesCounting">
+   <source>Still counting...</source>
+   <translation type="unfinished">Wird noch gezählt …</translation>
+  </message>
+  <message id="propertiesUnreadable" numerus="yes">
+   <source>%1 could not be read</source>
+   <translation type="unfinished">
+    <numerusform>%1 konnte nicht gelesen werden</numerusform>
+    <numerusform>%1 konnten nicht gelesen werden</numerusform>
+   </translation>
+  </message>
+  <message id="propertiesFromTo">
+   <source>%1 to %2</source>
+   <translation type="unfinished">%1 bis %2</translation>
+  </message>
+  <message id="propertiesGone">
+   <source>It is no longer there</source>
+   <translation type="unfinished">Das gibt es nicht mehr</translation>
+  </message>
+  <message id="optionsTitle">
+   <source>Options</source>
+   <translation type="unfinished">Optionen</translation>
+  </message>
+  <message id="optionsLeftPhotos">
+   <source>Photos on the camera, once they are copied</source>
+   <translation type="unfinished">Fotos auf der Kamera, nachdem sie kopiert sind</translation>
+  </message>
+  <message id="optionsAsk">
+   <source>&amp;Ask what to do</source>
+   <translation type="unfinished">&amp;Fragen, was geschehen soll</translation>
+  </message>
+  <message id="optionsKeep">
+   <source>&amp;Keep them on the camera</source>
+   <translation type="unfinished">Auf der Kamera &amp;behalten</translation>
+  </message>
+  <message id="optionsDelete">
+   <source>&amp;Delete them from the camera</source>
+   <translation type="unfinished">Von der Kamera &amp;löschen</translation>
+  </message>
+  <message id="optionsPort">
+   <source>Port of the handset</source>
+   <translation type="unfinished">Anschluss des Handys</translation>
+  </message>
+  <message id="optionsSearch">
+   <source>Search by number or name</source>
+   <translation type="unfinished">Nach Nummer oder Name suchen</translation>
+  </message>
+  <message id="optionsOnlyPresent">
+   <source>&amp;Only ports with something behind them</source>
+   <translation type="unfinished">&amp;Nur Anschlüsse, hinter denen etwas steht</translation>
+  </message>
+  <message id="optionsPortWith">
+   <source>%1: %2</source>
+   <translation type="unfinished">%1: %2</translation>
+  </message>
+  <message id="optionsPortAway">
+   <source>%1: %2 (not connected)</source>
+   <translation type="unfinished">%1: %2 (nicht angeschlossen)</translation>
+  </message>
+  <message id="optionsNamed">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1, %2</translation>
+  </message>
+  <message id="optionsNoPort">
+   <source>No port is chosen. Connect the handset's cable or adapter, open this window again and choose it here.</source>
+   <translation type="unfinished">Kein Anschluss ist gewählt. Schließen Sie Kabel oder Adapter des Handys an, öffnen Sie dieses Fenster erneut und wählen Sie ihn hier.</translation>
+  </message>
+  <message id="optionsPortReady">
+   <source>The handset is looked for at this port.</source>
+   <translation type="unfinished">Das Handy wird an diesem Anschluss gesucht.</translation>
+  </message>
+  <message id="optionsPortMissing">
+   <source>Nothing is connected at this port now.</source>
+   <translation type="unfinished">An diesem Anschluss ist gerade nichts angeschlossen.</translation>
+  </message>
+  <message id="optionsPortNew">
+   <source>This adapter keeps the number from now on, whatever else is plugged in.</source>
+   <translation type="unfinished">Dieser Adapter behält die Nummer von nun an, was immer sonst angeschlossen ist.</translation>
+  </message>
+  <message id="optionsNotSaved">
+   <source>The options could not be saved. Your settings folder may be full or protected against changes.</source>
+   <translation type="unfinished">Die Optionen konnten nicht gespeichert werden. Vielleicht ist der Ordner Ihrer Einstellungen voll oder schreibgeschützt.</translation>
+  </message>
+  <message id="sourceTitle">
+   <source>Select Source</source>
+   <translation type="unfinished">Quelle wählen</translation>
+  </message>
+  <message id="sourceLooking">
+   <source>Looking for scanners and cameras...</source>
+   <translation type="unfinished">Scanner und Kameras werden gesucht …</translation>
+  </message>
+  <message id="sourceChoose">
+   <source>Pictures are acquired from:</source>
+   <translation type="unfinished">Bilder werden übernommen von:</translation>
+  </message>
+  <message id="sourceNone">
+   <source>No scanner or camera was found. Switch it on, connect it, and open this window again.</source>
+   <translation type="unfinished">Kein Scanner und keine Kamera wurde gefunden. Schalten Sie das Gerät ein, schließen Sie es an und öffnen Sie dieses Fenster erneut.</translation>
+  </message>
+  <message id="sourceCannotOpen">
+   <source>An error occurred while trying to open TWAIN Data Source.</source>
+   <translation type="unfinished">Beim Öffnen der TWAIN-Datenquelle ist ein Fehler aufgetreten.</translation>
+  </message>
+  <message id="sourceCannotOpenWhy">
+   <source>Scanners are reached through SANE, which is not installed or does not start.</source>
+   <translation type="unfinished">Scanner werden über SANE erreicht, das nicht installiert ist oder nicht startet.</translation>
+  </message>
+  <message id="commandRename">
+   <source>Rename</source>
+   <translation type="unfinished">Umbenennen</translation>
+  </message>
+  <message id="commandNewFolder">
+   <source>New Folder...</source>
+   <translation type="unfinished">Neuer Ordner …</translation>
+  </message>
+  <message id="filesOpen">
+   <source>&amp;Open</source>
+   <translation type="unfinished">&amp;Öffnen</translation>
+  </message>
+  <message id="filesOpenWith">
+   <source>Open &amp;With</source>
+   <translation type="unfinished">Öffnen &amp;mit</translation>
+  </message>
+  <message id="filesOpenWithNone">
+   <source>No program is known for this kind of file</source>
+   <translation type="unfinished">Für diese Art von Datei ist kein Programm bekannt</translation>
+  </message>
+  <message id="filesCut">
+   <source>Cu&amp;t</source>
+   <translation type="unfinished">A&amp;usschneiden</translation>
+  </message>
+  <message id="filesCopy">
+   <source>&amp;Copy</source>
+   <translation type="unfinished">&amp;Kopieren</translation>
+  </message>
+  <message id="filesPaste">
+   <source>&amp;Paste</source>
+   <translation type="unfinished">&amp;Einfügen</translation>
+  </message>
+  <message id="filesRename">
+   <source>&amp;Rename</source>
+   <translation type="unfinished">Um&amp;benennen</translation>
+  </message>
+  <message id="filesNewFolder">
+   <source>&amp;New Folder...</source>
+   <translation type="unfinished">&amp;Neuer Ordner …</translation>
+  </message>
+  <message id="filesDelete">
+   <source>&amp;Delete</source>
+   <translation type="unfinished">&amp;Löschen</translation>
+  </message>
+  <message id="filesDeleteForGood">
+   <source>Delete for &amp;Good</source>
+   <translation type="unfinished">End&amp;gültig löschen</translation>
+  </message>
+  <message id="filesRefresh">
+   <source>Re&amp;fresh</source>
+   <translation type="unfinished">Ak&amp;tualisieren</translation>
+  </message>
+  <message id="filesUndo">
+   <source>Undo</source>
+   <translation type="unfinished">Rückgängig</translation>
+  </message>
+  <message id="filesUndoCopyName">
+   <source>Undo Copy of “%1”</source>
+   <translation type="unfinished">Kopieren von „%1“ rückgängig</translation>
+  </message>
+  <message id="filesUndoMoveName">
+   <source>Undo Move of “%1”</source>
+   <translation type="unfinished">Verschieben von „%1“ rückgängig</translation>
+  </message>
+  <message id="filesUndoDeleteName">
+   <source>Undo Delete of “%1”</source>
+   <translation type="unfinished">Löschen von „%1“ rückgängig</translation>
+  </message>
+  <message id="filesUndoRenameName">
+   <source>Undo Rename of “%1”</source>
+   <translation type="unfinished">Umbenennen von „%1“ rückgängig</translation>
+  </message>
+  <message id="filesUndoFolderName">
+   <source>Undo New Folder “%1”</source>
+   <translation type="unfinished">Neuen Ordner „%1“ rückgängig</translation>
+  </message>
+  <message id="filesUndoPasteName">
+   <source>Undo Paste of “%1”</source>
+   <translation type="unfinished">Einfügen von „%1“ rückgängig</translation>
+  </message>
+  <message id="filesUndoCopy" numerus="yes">
+   <source>Undo Copy of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>Kopieren von %1 Element rückgängig</numerusform>
+    <numerusform>Kopieren von %1 Elementen rückgängig</numerusform>
+   </translation>
+  </message>
+  <message id="filesUndoMove" numerus="yes">
+   <source>Undo Move of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>Verschieben von %1 Element rückgängig</numerusform>
+    <numerusform>Verschieben von %1 Elementen rückgängig</numerusform>
+   </translation>
+  </message>
+  <message id="filesUndoDelete" numerus="yes">
+   <source>Undo Delete of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>Löschen von %1 Element rückgängig</numerusform>
+    <numerusform>Löschen von %1 Elementen rückgängig</numerusform>
+   </translation>
+  </message>
+  <message id="filesCopying" numerus="yes">
+   <source>Copying %1 items</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element wird kopiert</numerusform>
+    <numerusform>%1 Elemente werden kopiert</numerusform>
+   </translation>
+  </message>
+  <message id="filesMoving" numerus="yes">
+   <source>Moving %1 items</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element wird verschoben</numerusform>
+    <numerusform>%1 Elemente werden verschoben</numerusform>
+   </translation>
+  </message>
+  <message id="filesTrashing" numerus="yes">
+   <source>Moving %1 items to the trash</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element kommt in den Papierkorb</numerusform>
+    <numerusform>%1 Elemente kommen in den Papierkorb</numerusform>
+   </translation>
+  </message>
+  <message id="filesRemoving" numerus="yes">
+   <source>Deleting %1 items</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element wird gelöscht</numerusform>
+    <numerusform>%1 Elemente werden gelöscht</numerusform>
+   </translation>
+  </message>
+  <message id="filesRenaming">
+   <source>Renaming</source>
+   <translation type="unfinished">Wird umbenannt</translation>
+  </message>
+  <message id="filesMakingFolder">
+   <source>Making a folder</source>
+   <translation type="unfinished">Ordner wird angelegt</translation>
+  </message>
+  <message id="filesMakingFile">
+   <source>Saving a picture</source>
+   <translation type="unfinished">Bild wird gespeichert</translation>
+  </message>
+  <message id="filesUndoing" numerus="yes">
+   <source>Taking back %1 changes</source>
+   <translation type="unfinished">
+    <numerusform>%1 Änderung wird rückgängig gemacht</numerusform>
+    <numerusform>%1 Änderungen werden rückgängig gemacht</numerusform>
+   </translation>
+  </message>
+  <message id="filesWaiting" numerus="yes">
+   <source>%1 more jobs are waiting</source>
+   <translation type="unfinished">
+    <numerusform>%1 weiterer Auftrag wartet</numerusform>
+    <numerusform>%1 weitere Aufträge warten</numerusform>
+   </translation>
+  </message>
+  <message id="filesProgress">
+   <source>Progress</source>
+   <translation type="unfinished">Fortschritt</translation>
+  </message>
+  <message id="filesCancel">
+   <source>Cancel</source>
+   <translation type="unfinished">Abbrechen</translation>
+  </message>
+  <message id="filesCancelling">
+   <source>Stopping...</source>
+   <translation type="unfinished">Wird angehalten …</translation>
+  </message>
+  <message id="filesClashTitle">
+   <source>Name taken</source>
+   <translation type="unfinished">Name vergeben</translation>
+  </message>
+  <message id="filesClashFile">
+   <source>“%1” is already in “%2”.</source>
+   <translation type="unfinished">„%1“ ist schon in „%2“.</translation>
+  </message>
+  <message id="filesClashFolder">
+   <source>A folder “%1” is already in “%2”.</source>
+   <translation type="unfinished">Ein Ordner „%1“ ist schon in „%2“.</translation>
+  </message>
+  <message id="filesClashThere">
+   <source>There: %1</source>
+   <translation type="unfinished">Vorhanden: %1</translation>
+  </message>
+  <message id="filesClashComing">
+   <source>Coming: %1</source>
+   <translation type="unfinished">Neu: %1</translation>
+  </message>
+  <message id="filesClashFacts">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1, %2</translation>
+  </message>
+  <message id="filesClashForAll">
+   <source>Do the &amp;same for all others</source>
+   <translation type="unfinished">Für alle anderen &amp;ebenso</translation>
+  </message>
+  <message id="filesClashSkip">
+   <source>&amp;Skip</source>
+   <translation type="unfinished">Au&amp;slassen</translation>
+  </message>
+  <message id="filesClashReplace">
+   <source>&amp;Replace</source>
+   <translation type="unfinished">E&amp;rsetzen</translation>
+  </message>
+  <message id="filesClashReplaceTip">
+   <source>The one that is there goes to the trash</source>
+   <translation type="unfinished">Was da ist, kommt in den Papierkorb</translation>
+  </message>
+  <message id="filesClashKeepBoth">
+   <source>&amp;Keep Both</source>
+   <translation type="unfinished">&amp;Beide behalten</translation>
+  </message>
+  <message id="filesClashKeepBothTip">
+   <source>The one that comes gets a number</source>
+   <translation type="unfinished">Was neu ist, bekommt eine Nummer</translation>
+  </message>
+  <message id="filesClashMerge">
+   <source>&amp;Merge</source>
+   <translation type="unfinished">&amp;Zusammenführen</translation>
+  </message>
+  <message id="filesClashMergeTip">
+   <source>What both folders hold is put together; nothing is replaced without asking</source>
+   <translation type="unfinished">Der Inhalt beider Ordner wird vereint; nichts wird ohne Frage ersetzt</translation>
+  </message>
+  <message id="filesAskTitle">
+   <source>Delete for good</source>
+   <translation type="unfinished">Endgültig löschen</translation>
+  </message>
+  <message id="filesAskRemoveName">
+   <source>Delete “%1” for good?</source>
+   <translation type="unfinished">„%1“ endgültig löschen?</translation>
+  </message>
+  <message id="filesAskRemove" numerus="yes">
+   <source>Delete %1 items for good?</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element endgültig löschen?</numerusform>
+    <numerusform>%1 Elemente endgültig löschen?</numerusform>
+   </translation>
+  </message>
+  <message id="filesAskRemoveMore">
+   <source>They cannot be brought back.</source>
+   <translation type="unfinished">Das lässt sich nicht rückgängig machen.</translation>
+  </message>
+  <message id="filesAskNoTrash" numerus="yes">
+   <source>%1 items cannot be put into the trash, for there is none on that medium. Delete them for good?</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element kann nicht in den Papierkorb, denn auf diesem Datenträger gibt es keinen. Endgültig löschen?</numerusform>
+    <numerusform>%1 Elemente können nicht in den Papierkorb, denn auf diesem Datenträger gibt es keinen. Endgültig löschen?</numerusform>
+   </translation>
+  </message>
+  <message id="filesAskRemoveButton">
+   <source>Delete</source>
+   <translation type="unfinished">Löschen</translation>
+  </message>
+  <message id="filesAskFolderTitle">
+   <source>New folder</source>
+   <translation type="unfinished">Neuer Ordner</translation>
+  </message>
+  <message id="filesAskFolderName">
+   <source>Name of the new folder in “%1”:</source>
+   <translation type="unfinished">Name des neuen Ordners in „%1“:</translation>
+  </message>
+  <message id="filesNewFolderName">
+   <source>New Folder</source>
+   <translation type="unfinished">Neuer Ordner</translation>
+  </message>
+  <message id="filesCreate">
+   <source>Create</source>
+   <translation type="unfinished">Anlegen</translation>
+  </message>
+  <message id="filesNameLabel">
+   <source>New name</source>
+   <translation type="unfinished">Neuer Name</translation>
+  </message>
+  <message id="filesNameEmpty">
+   <source>A name is needed</source>
+   <translation type="unfinished">Ein Name ist nötig</translation>
+  </message>
+  <message id="filesNameForbidden">
+   <source>A name may not hold any of / \ : * ? " &lt; &gt; |</source>
+   <translation type="unfinished">Ein Name darf keines der Zeichen / \ : * ? " &lt; &gt; | enthalten</translation>
+  </message>
+  <message id="filesNameReserved">
+   <source>This name has a meaning of its own</source>
+   <translation type="unfinished">Dieser Name hat eine eigene Bedeutung</translation>
+  </message>
+  <message id="filesNameTooLong">
+   <source>This name is too long</source>
+   <translation type="unfinished">Dieser Name ist zu lang</translation>
+  </message>
+  <message id="filesNameTaken">
+   <source>“%1” is already there</source>
+   <translation type="unfinished">„%1“ gibt es schon</translation>
+  </message>
+  <message id="filesReportTitle">
+   <source>Not everything was done</source>
+   <translation type="unfinished">Nicht alles ist geschehen</translation>
+  </message>
+  <message id="filesNotCopied" numerus="yes">
+   <source>%1 items could not be copied.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element konnte nicht kopiert werden.</numerusform>
+    <numerusform>%1 Elemente konnten nicht kopiert werden.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotMoved" numerus="yes">
+   <source>%1 items could not be moved.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element konnte nicht verschoben werden.</numerusform>
+    <numerusform>%1 Elemente konnten nicht verschoben werden.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotTrashed" numerus="yes">
+   <source>%1 items could not be moved to the trash.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element konnte nicht in den Papierkorb.</numerusform>
+    <numerusform>%1 Elemente konnten nicht in den Papierkorb.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotRemoved" numerus="yes">
+   <source>%1 items could not be deleted.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Element konnte nicht gelöscht werden.</numerusform>
+    <numerusform>%1 Elemente konnten nicht gelöscht werden.</numerusform>
+   </translation>
+  </message>
+  <message id="filesNotRenamed">
+   <source>The new name could not be given.</source>
+   <translation type="unfinished">Der neue Name konnte nicht vergeben werden.</translation>
+  </message>
+  <message id="filesNoFolderMade">
+   <source>The folder could not be made.</source>
+   <translation type="unfinished">Der Ordner konnte nicht angelegt werden.</translation>
+  </message>
+  <message id="filesNoFileMade">
+   <source>The picture could not be saved.</source>
+   <translation type="unfinished">Das Bild konnte nicht gespeichert werden.</translation>
+  </message>
+  <message id="filesNotUndone" numerus="yes">
+   <source>%1 changes could not be taken back.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Änderung konnte nicht rückgängig gemacht werden.</numerusform>
+    <numerusform>%1 Änderungen konnten nicht rückgängig gemacht werden.</numerusform>
+   </translation>
+  </message>
+  <message id="filesWereDone">
+   <source>Done: %1 of %2.</source>
+   <translation type="unfinished">Erledigt: %1 von %2.</translation>
+  </message>
+  <message id="filesWereSkipped">
+   <source>Left out as you chose: %1.</source>
+   <translation type="unfinished">Wie gewählt ausgelassen: %1.</translation>
+  </message>
+  <message id="filesWasCancelled">
+   <source>You stopped it.</source>
+   <translation type="unfinished">Sie haben es angehalten.</translation>
+  </message>
+  <message id="filesProblemLine">
+   <source>%1: %2</source>
+   <translation type="unfinished">%1: %2</translation>
+  </message>
+  <message id="filesMoreProblems" numerus="yes">
+   <source>and %1 more</source>
+   <translation type="unfinished">
+    <numerusform>und %1 weiteres</numerusform>
+    <numerusform>und %1 weitere</numerusform>
+   </translation>
+  </message>
+  <message id="filesBecauseMissing">
+   <source>it is no longer there</source>
+   <translation type="unfinished">das gibt es nicht mehr</translation>
+  </message>
+  <message id="filesBecauseTaken">
+   <source>its name is taken</source>
+   <translation type="unfinished">der Name ist vergeben</translation>
+  </message>
+  <message id="filesBecauseItself">
+   <source>it is there already</source>
+   <translation type="unfinished">das ist schon dort</translation>
+  </message>
+  <message id="filesBecauseIntoItself">
+   <source>a folder can neither go into itself nor take the place of a folder that holds it</source>
+   <translation type="unfinished">ein Ordner kann weder in sich selbst noch an die Stelle eines Ordners, der ihn enthält</translation>
+  </message>
+  <message id="filesBecauseForbidden">
+   <source>you may not do that here</source>
+   <translation type="unfinished">das dürfen Sie hier nicht</translation>
+  </message>
+  <message id="filesBecauseNoRoom">
+   <source>there is not enough room</source>
+   <translation type="unfinished">der Platz reicht nicht</translation>
+  </message>
+  <message id="filesBecauseBadName">
+   <source>this medium takes no such name</source>
+   <translation type="unfinished">dieser Datenträger nimmt einen solchen Namen nicht</translation>
+  </message>
+  <message id="filesBecauseNoTrash">
+   <source>there is no trash on this medium</source>
+   <translation type="unfinished">auf diesem Datenträger gibt es keinen Papierkorb</translation>
+  </message>
+  <message id="filesBecauseChanged">
+   <source>it has changed since</source>
+   <translation type="unfinished">das hat sich seitdem geändert</translation>
+  </message>
+  <message id="filesDropCopy">
+   <source>Copy to “%1”</source>
+   <translation type="unfinished">Nach „%1“ kopieren</translation>
+  </message>
+  <message id="filesDropMove">
+   <source>Move to “%1”</source>
+   <translation type="unfinished">Nach „%1“ verschieben</translation>
+  </message>
+  <message id="menuFile">
+   <source>File</source>
+   <translation type="unfinished">Datei</translation>
+  </message>
+  <message id="menuEdit">
+   <source>Edit</source>
+   <translation type="unfinished">Bearbeiten</translation>
+  </message>
+  <message id="menuView">
+   <source>View</source>
+   <translation type="unfinished">Ansicht</translation>
+  </message>
+  <message id="menuThumbnailSize">
+   <source>Thumbnail Size</source>
+   <translation type="unfinished">Größe der Vorschaubilder</translation>
+  </message>
+  <message id="menuFilter">
+   <source>Filter</source>
+   <translation type="unfinished">Filter</translation>
+  </message>
+  <message id="menuSort">
+   <source>Sort</source>
+   <translation type="unfinished">Sortieren</translation>
+  </message>
+  <message id="menuTools">
+   <source>Tools</source>
+   <translation type="unfinished">Extras</translation>
+  </message>
+  <message id="menuMobile">
+   <source>Mobile</source>
+   <translation type="unfinished">Handy</translation>
+  </message>
+  <message id="menuHelp">
+   <source>Help</source>
+   <translation type="unfinished">Hilfe</translation>
+  </message>
+  <message id="commandAcquire">
+   <source>Acquire...</source>
+   <translation type="unfinished">Bild übernehmen …</translation>
+  </message>
+  <message id="commandSelectSource">
+   <source>Select Source...</source>
+   <translation type="unfinished">Quelle wählen …</translation>
+  </message>
+  <message id="commandCameraDownload">
+   <source>Camera Download...</source>
+   <translation type="unfinished">Von der Kamera kopieren …</translation>
+  </message>
+  <message id="commandPrint">
+   <source>Print...</source>
+   <translation type="unfinished">Drucken …</translation>
+  </message>
+  <message id="commandEMail">
+   <source>E-mail...</source>
+   <translation type="unfinished">E-Mail …</translation>
+  </message>
+  <message id="commandProperties">
+   <source>Properties...</source>
+   <translation type="unfinished">Eigenschaften …</translation>
+  </message>
+  <message id="commandBackToTaskPanel">
+   <source>Back to Task Panel</source>
+   <translation type="unfinished">Zurück zur Aufgabenleiste</translation>
+  </message>
+  <message id="commandExit">
+   <source>Exit</source>
+   <translation type="unfinished">Beenden</translation>
+  </message>
+  <message id="commandCopy">
+   <source>Copy</source>
+   <translation type="unfinished">Kopieren</translation>
+  </message>
+  <message id="commandCut">
+   <source>Cut</source>
+   <translation type="unfinished">Ausschneiden</translation>
+  </message>
+  <message id="commandPaste">
+   <source>Paste</source>
+   <translation type="unfinished">Einfügen</translation>
+  </message>
+  <message id="commandDelete">
+   <source>Delete</source>
+   <translation type="unfinished">Löschen</translation>
+  </message>
+  <message id="commandSelectAll">
+   <source>Select All</source>
+   <translation type="unfinished">Alles auswählen</translation>
+  </message>
+  <message id="commandSelectNone">
+   <source>Select None</source>
+   <translation type="unfinished">Nichts auswählen</translation>
+  </message>
+  <message id="commandInvertSelection">
+   <source>Invert Selection</source>
+   <translation type="unfinished">Auswahl umkehren</translation>
+  </message>
+  <message id="commandSearch">
+   <source>Search...</source>
+   <translation type="unfinished">Suchen …</translation>
+  </message>
+  <message id="commandThumbnails">
+   <source>Thumbnails</source>
+   <translation type="unfinished">Vorschaubilder</translation>
+  </message>
+  <message id="commandSmallIcons">
+   <source>Small Icons</source>
+   <translation type="unfinished">Kleine Symbole</translation>
+  </message>
+  <message id="commandList">
+   <source>List</source>
+   <translation type="unfinished">Liste</translation>
+  </message>
+  <message id="commandDetails">
+   <source>Details</source>
+   <translation type="unfinished">Einzelheiten</translation>
+  </message>
+  <message id="commandLarge">
+   <source>Large</source>
+   <translation type="unfinished">Groß</translation>
+  </message>
+  <message id="commandMedium">
+   <source>Medium</source>
+   <translation type="unfinished">Mittel</translation>
+  </message>
+  <message id="commandSmall">
+   <source>Small</source>
+   <translation type="unfinished">Klein</translation>
+  </message>
+  <message id="commandPhoto">
+   <source>Photo</source>
+   <translation type="unfinished">Fotos</translation>
+  </message>
+  <message id="commandVideo">
+   <source>Video</source>
+   <translation type="unfinished">Videos</translation>
+  </message>
+  <message id="commandMedia">
+   <source>Media</source>
+   <translation type="unfinished">Medien</translation>
+  </message>
+  <message id="commandAllFiles">
+   <source>All Files</source>
+   <translation type="unfinished">Alle Dateien</translation>
+  </message>
+  <message id="commandIncludeFolder">
+   <source>Include Folder</source>
+   <translation type="unfinished">Auch Ordner</translation>
+  </message>
+  <message id="commandByName">
+   <source>By Name</source>
+   <translation type="unfinished">Nach Name</translation>
+  </message>
+  <message id="commandBySize">
+   <source>By Size</source>
+   <translation type="unfinished">Nach Größe</translation>
+  </message>
+  <message id="commandByType">
+   <source>By Type</source>
+   <translation type="unfinished">Nach Typ</translation>
+  </message>
+  <message id="commandByModified">
+   <source>By Modified</source>
+   <translation type="unfinished">Nach Änderung</translation>
+  </message>
+  <message id="commandByDateTaken">
+   <source>By Date Taken</source>
+   <translation type="unfinished">Nach Aufnahmedatum</translation>
+  </message>
+  <message id="commandAscending">
+   <source>Ascending</source>
+   <translation type="unfinished">Aufsteigend</translation>
+  </message>
+  <message id="commandDescending">
+   <source>Descending</source>
+   <translation type="unfinished">Absteigend</translation>
+  </message>
+  <message id="commandDateTakenColumn">
+   <source>Date Taken Column</source>
+   <translation type="unfinished">Spalte „Aufnahmedatum“</translation>
+  </message>
+  <message id="commandToolBar">
+   <source>Tool Bar</source>
+   <translation type="unfinished">Werkzeugleiste</translation>
+  </message>
+  <message id="commandTaskPanel">
+   <source>Task Panel</source>
+   <translation type="unfinished">Aufgabenleiste</translation>
+  </message>
+  <message id="commandRefresh">
+   <source>Refresh</source>
+   <translation type="unfinished">Aktualisieren</translation>
+  </message>
+  <message id="commandImageSize">
+   <source>Image Size</source>
+   <translation type="unfinished">Bildgröße</translation>
+  </message>
+  <message id="commandPhotoTrim">
+   <source>Photo Trim</source>
+   <translation type="unfinished">Foto zuschneiden</translation>
+  </message>
+  <message id="commandWhiteboardCleanUp">
+   <source>Whiteboard Clean-up</source>
+   <translation type="unfinished">Tafelbild säubern</translation>
+  </message>
+  <message id="commandVideoTrim">
+   <source>Video Trim</source>
+   <translation type="unfinished">Video schneiden</translation>
+  </message>
+  <message id="commandSlideShow">
+   <source>Slide Show</source>
+   <translation type="unfinished">Diaschau</translation>
+  </message>
+  <message id="commandScreenSaver">
+   <source>Screen Saver</source>
+   <translation type="unfinished">Bildschirmschoner</translation>
+  </message>
+  <message id="commandScreenCapture">
+   <source>Screen Capture</source>
+   <translation type="unfinished">Bildschirm aufnehmen</translation>
+  </message>
+  <message id="commandChangeTimeStamp">
+   <source>Change Time Stamp</source>
+   <translation type="unfinished">Zeitstempel ändern</translation>
+  </message>
+  <message id="commandUploadToPc">
+   <source>Upload to PC</source>
+   <translation type="unfinished">Auf den PC übertragen</translation>
+  </message>
+  <message id="commandDownloadToMobile">
+   <source>Download to Mobile</source>
+   <translation type="unfinished">Auf das Handy übertragen</translation>
+  </message>
+  <message id="commandMessageCenter">
+   <source>Message Center</source>
+   <translation type="unfinished">Nachrichten</translation>
+  </message>
+  <message id="commandPim">
+   <source>PIM</source>
+   <translation type="unfinished">PIM</translation>
+  </message>
+  <message id="commandMms">
+   <source>MMS</source>
+   <translation type="unfinished">MMS</translation>
+  </message>
+  <message id="commandSms">
+   <source>SMS</source>
+   <translation type="unfinished">SMS</translation>
+  </message>
+  <message id="commandOptions">
+   <source>Options...</source>
+   <translation type="unfinished">Optionen …</translation>
+  </message>
+  <message id="commandHelp">
+   <source>Help</source>
+   <translation type="unfinished">Hilfe</translation>
+  </message>
+  <message id="commandAbout">
+   <source>About</source>
+   <translation type="unfinished">Über</translation>
+  </message>
+  <message id="missingMail">
+   <source>Sending mail is not part of this version yet</source>
+   <translation type="unfinished">E-Mail gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingEditors">
+   <source>The image editors are not part of this version yet</source>
+   <translation type="unfinished">Die Bildbearbeitung gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingScreenSaver">
+   <source>The screen saver is not part of this version yet</source>
+   <translation type="unfinished">Der Bildschirmschoner gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingTimeStamps">
+   <source>Changing time stamps is not part of this version yet</source>
+   <translation type="unfinished">Zeitstempel zu ändern gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingHandset">
+   <source>Exchange with the handset is not part of this version yet</source>
+   <translation type="unfinished">Der Austausch mit dem Handy gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingCamera">
+   <source>Taking photos over from a camera is not part of this version yet</source>
+   <translation type="unfinished">Fotos von einer Kamera zu übernehmen gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingScanner">
+   <source>Taking pictures from a scanner is not part of this version yet</source>
+   <translation type="unfinished">Bilder von einem Scanner zu übernehmen gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="missingStyle">
+   <source>This view is not part of this version yet</source>
+   <translation type="unfinished">Diese Ansicht gehört noch nicht zu dieser Version</translation>
+  </message>
+  <message id="aboutTitle">
+   <source>About</source>
+   <translation type="unfinished">Über</translation>
+  </message>
+  <message id="aboutVersion">
+   <source>%1 %2</source>
+   <translation type="unfinished">%1 %2</translation>
+  </message>
+  <message id="aboutWhat">
+   <source>A manager for photos and other media.</source>
+   <translation type="unfinished">Verwaltet Fotos und andere Medien.</translation>
+  </message>
+  <message id="suiteLaunchMms">
+   <source>Launch MMS</source>
+   <translation type="unfinished">MMS starten</translation>
+  </message>
+  <message id="suiteLaunchSms">
+   <source>Launch SMS</source>
+   <translation type="unfinished">SMS starten</translation>
+  </message>
+  <message id="suitePimError">
+   <source>Launch PIM Error</source>
+   <translation type="unfinished">Launch PIM Error</translation>
+  </message>
+  <message id="suitePimWhy">
+   <source>Contacts and calendar are kept by a part of the suite that is not installed.</source>
+   <translation type="unfinished">Kontakte und Kalender verwaltet ein Teil der Suite, der nicht installiert ist.</translation>
+  </message>
+  <message id="suiteNoLauncher">
+   <source>The suite's task panel is not installed.</source>
+   <translation type="unfinished">Die Aufgabenleiste der Suite ist nicht installiert.</translation>
+  </message>
+  <message id="suiteNoPictures">
+   <source>Select the pictures to print first.</source>
+   <translation type="unfinished">Wählen Sie zuerst die Bilder aus, die gedruckt werden sollen.</translation>
+  </message>
+  <message id="suiteNoPrinter">
+   <source>Printing needs the suite's print program, which is not installed.
+Pictures can be printed with the program that opens them: Open With in the list's menu.</source>
+   <translation type="unfinished">Zum Drucken wird das Druckprogramm der Suite gebraucht, das nicht installiert ist.
+Bilder lassen sich mit dem Programm drucken, das sie öffnet: „Öffnen mit“ im Menü der Liste.</translation>
+  </message>
+  <message id="suiteListNotWritten">
+   <source>The list of pictures for the print program could not be written: %1</source>
+   <translation type="unfinished">Die Liste der Bilder für das Druckprogramm konnte nicht geschrieben werden: %1</translation>
+  </message>
+  <message id="suiteNoTrimmer">
+   <source>Trimming videos needs the suite's video program, which is not installed.</source>
+   <translation type="unfinished">Zum Schneiden von Videos wird das Videoprogramm der Suite gebraucht, das nicht installiert ist.</translation>
+  </message>
+  <message id="suiteTrimNotWritten">
+   <source>The video program's settings could not be written: %1</source>
+   <translation type="unfinished">Die Einstellungen des Videoprogramms konnten nicht geschrieben werden: %1</translation>
+  </message>
+  <message id="suiteNoClips">
+   <source>Don't support AVI and ASF format.</source>
+   <translation type="unfinished">AVI und ASF werden hier nicht unterstützt.</translation>
+  </message>
+  <message id="suiteWarning">
+   <source>Warning</source>
+   <translation type="unfinished">Warnung</translation>
+  </message>
+  <message id="captureNothing">
+   <source>There is no other window to capture.</source>
+   <translation type="unfinished">Es gibt kein anderes Fenster, das aufgenommen werden könnte.</translation>
+  </message>
+  <message id="captureNoFolder">
+   <source>Choose a folder on the left first: captured pictures are saved there.</source>
+   <translation type="unfinished">Wählen Sie zuerst links einen Ordner: Dort werden die Aufnahmen gespeichert.</translation>
+  </message>
+  <message id="captureNotSaved">
+   <source>The picture could not be taken or saved.</source>
+   <translation type="unfinished">Das Bild konnte nicht aufgenommen oder gespeichert werden.</translation>
+  </message>
+  <message id="propertiesNothing">
+   <source>Select the files whose properties you want to see first.</source>
+   <translation type="unfinished">Wählen Sie zuerst die Dateien aus, deren Eigenschaften Sie sehen möchten.</translation>
+  </message>
+  <message id="waitingQuestion">
+   <source>This window waits until the print program has ended.</source>
+   <translation type="unfinished">Dieses Fenster wartet, bis das Druckprogramm beendet ist.</translation>
+  </message>
+  <message id="waitingWait">
+   <source>&amp;Wait</source>
+   <translation type="unfinished">&amp;Warten</translation>
+  </message>
+  <message id="waitingUse">
+   <source>&amp;Use It Now</source>
+   <translation type="unfinished">&amp;Jetzt benutzen</translation>
+  </message>
+  <message id="waitingClose">
+   <source>&amp;Close It</source>
+   <translation type="unfinished">&amp;Schließen</translation>
+  </message>
+  <message id="suiteNoShow">
+   <source>There are no pictures here to show.</source>
+   <translation type="unfinished">Hier gibt es keine Bilder, die gezeigt werden könnten.</translation>
+  </message>
   <message id="listColumnHeadings">
    <source>Name|Size|Type|Modified</source>
    <translation type="unfinished">Name|Größe|Typ|Geändert</translation>
+  </message>
+  <message id="listDateTaken">
+   <source>Date Taken</source>
+   <translation type="unfinished">Aufgenommen</translation>
+  </message>
+  <message id="listStandardColumns">
+   <source>Standard Columns</source>
+   <translation type="unfinished">Übliche Spalten</translation>
+  </message>
+  <message id="listSorting">
+   <source>Sorting: %1 of %2 files read</source>
+   <translation type="unfinished">Sortieren: %1 von %2 Dateien gelesen</translation>
   </message>
   <message id="listFiles">
    <source>Files</source>
@@ -66,6 +1056,10 @@
   <message id="kindSound">
    <source>%1 sound</source>
    <translation type="unfinished">%1-Klang</translation>
+  </message>
+  <message id="kindSearchResult">
+   <source>Search result</source>
+   <translation type="unfinished">Suchergebnis</translation>
   </message>
   <message id="tabDevice">
    <source>Device</source>
@@ -129,7 +1123,7 @@
   </message>
   <message id="skinTabSearchTip">
    <source>Find files (F3)</source>
-   <translation type="unfinished">Dateien finden (F3)</translation>
+   <translation type="unfinished">Dateien suchen (F3)</translation>
   </message>
   <message id="skinLeaveSearch">
    <source>Changing folders will cancel your search. Are you sure you want to change folders?</source>
@@ -178,6 +1172,106 @@
   <message id="statusOneByte">
    <source>1 byte</source>
    <translation type="unfinished">1 Byte</translation>
+  </message>
+  <message id="viewerBack">
+   <source>Back to the thumbnails</source>
+   <translation type="unfinished">Zurück zu den Vorschaubildern</translation>
+  </message>
+  <message id="viewerPrevious">
+   <source>Previous picture</source>
+   <translation type="unfinished">Voriges Bild</translation>
+  </message>
+  <message id="viewerNext">
+   <source>Next picture</source>
+   <translation type="unfinished">Nächstes Bild</translation>
+  </message>
+  <message id="viewerZoomOut">
+   <source>Smaller</source>
+   <translation type="unfinished">Kleiner</translation>
+  </message>
+  <message id="viewerZoomIn">
+   <source>Larger</source>
+   <translation type="unfinished">Größer</translation>
+  </message>
+  <message id="viewerWhole">
+   <source>Whole picture</source>
+   <translation type="unfinished">Ganzes Bild</translation>
+  </message>
+  <message id="viewerPixels">
+   <source>Actual pixels</source>
+   <translation type="unfinished">Tatsächliche Pixel</translation>
+  </message>
+  <message id="viewerFullScreen">
+   <source>Full screen</source>
+   <translation type="unfinished">Vollbild</translation>
+  </message>
+  <message id="viewerLeaveFullScreen">
+   <source>Leave full screen</source>
+   <translation type="unfinished">Vollbild verlassen</translation>
+  </message>
+  <message id="viewerPlay">
+   <source>Play the clip</source>
+   <translation type="unfinished">Video abspielen</translation>
+  </message>
+  <message id="viewerTip">
+   <source>%1 (%2)</source>
+   <translation type="unfinished">%1 (%2)</translation>
+  </message>
+  <message id="viewerPosition">
+   <source>%1 of %2</source>
+   <translation type="unfinished">%1 von %2</translation>
+  </message>
+  <message id="viewerSize">
+   <source>%1 × %2</source>
+   <translation type="unfinished">%1 × %2</translation>
+  </message>
+  <message id="viewerZoom">
+   <source>%1 %</source>
+   <translation type="unfinished">%1 %</translation>
+  </message>
+  <message id="viewerFewerPixels">
+   <source>shown with fewer pixels</source>
+   <translation type="unfinished">mit weniger Pixeln gezeigt</translation>
+  </message>
+  <message id="viewerName">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1, %2</translation>
+  </message>
+  <message id="viewerClipName">
+   <source>%1, clip, %2</source>
+   <translation type="unfinished">%1, Video, %2</translation>
+  </message>
+  <message id="viewerBrokenName">
+   <source>%1, cannot be shown, %2</source>
+   <translation type="unfinished">%1, kann nicht gezeigt werden, %2</translation>
+  </message>
+  <message id="viewerBroken">
+   <source>This picture cannot be shown</source>
+   <translation type="unfinished">Dieses Bild kann nicht gezeigt werden</translation>
+  </message>
+  <message id="viewerBrokenClip">
+   <source>There is no picture of this clip</source>
+   <translation type="unfinished">Von diesem Video gibt es kein Bild</translation>
+  </message>
+  <message id="viewerShow">
+   <source>Slide show</source>
+   <translation type="unfinished">Diaschau</translation>
+  </message>
+  <message id="viewerShowPaused">
+   <source>Paused</source>
+   <translation type="unfinished">Angehalten</translation>
+  </message>
+  <message id="viewerShowRuns">
+   <source>A slide show is running</source>
+   <translation type="unfinished">Eine Diaschau läuft</translation>
+  </message>
+  <message id="watchNotFollowed">
+   <source>Changes are not followed</source>
+   <translation type="unfinished">Änderungen werden nicht verfolgt</translation>
+  </message>
+  <message id="watchNotFollowedTip">
+   <source>What other programs change in this folder does not show by itself. Press F5 to read it again.</source>
+   <translation type="unfinished">Was andere Programme in diesem Ordner ändern, erscheint nicht von selbst. F5 liest ihn neu.</translation>
   </message>
  </context>
 </TS>
