@@ -36,6 +36,7 @@ struct MediaItem {
     std::uint64_t fileSize = 0;
     platform::FileTime creationTime = 0;
     platform::FileTime lastWriteTime = 0;
+    platform::FileTime changeTime = 0;
     platform::FileTime thirdTime = 0;
     platform::FileTime dateTaken = 0;  // as date_taken.h has it
     std::uint32_t nameRank = 0;        // the item's place in name order

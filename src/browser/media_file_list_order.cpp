@@ -138,6 +138,7 @@ void CMediaFileList::TakeFacts(MediaItem& item, const platform::FileFacts& facts
     item.fileSize = item.isFolder ? 0 : facts.size;
     item.creationTime = facts.creationTime;
     item.lastWriteTime = facts.lastWriteTime;
+    item.changeTime = facts.changeTime;
     item.factsKnown = true;
     item.factsDue = false;
 }
@@ -170,7 +171,10 @@ bool CMediaFileList::ReadFacts(int index)
     if (item.factsKnown && !item.factsDue) {
         return true;
     }
-    const auto facts = platform::Os().files->FindFirstFile(PathOf(index));
+    const platform::FileFacts known{.creationTime = item.creationTime,
+                                    .lastWriteTime = item.lastWriteTime,
+                                    .changeTime = item.factsKnown ? item.changeTime : 0};
+    const auto facts = platform::Os().files->FindFirstFileAgain(PathOf(index), known);
     if (facts) {
         SetFacts(index, *facts);
     }

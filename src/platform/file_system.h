@@ -98,6 +98,8 @@ struct FileFacts {
     // Creation time: what the file system or the program recorded, else the birth time, else lastWriteTime.
     FileTime creationTime = 0;
     FileTime lastWriteTime = 0;
+    // When the file or something noted at it last changed; 0 when a later change might show the same time.
+    FileTime changeTime = 0;
 };
 
 struct FolderEntry {
@@ -131,6 +133,12 @@ public:
     virtual std::unique_ptr<CFile> Open(const std::string& path, OpenMode mode) = 0;
     // The facts of what `path` names, or nothing when it is not there or cannot be looked at.
     virtual std::optional<FileFacts> FindFirstFile(const std::string& path) = 0;
+    // The same, sooner: `known` is what FindFirstFile said of the path before.
+    virtual std::optional<FileFacts> FindFirstFileAgain(const std::string& path, const FileFacts& known)
+    {
+        (void)known;
+        return FindFirstFile(path);
+    }
     virtual Presence FindPresence(const std::string& path) = 0;
     // Null when the folder cannot be listed.
     virtual std::unique_ptr<CFolderReader> ReadFolder(const std::string& path) = 0;

@@ -87,6 +87,16 @@ platform::FileTime RecordedCreationTime(const std::string& path, const struct st
     return length > 0 ? ParseCreationTime(attribute, bytes, static_cast<std::size_t>(length)) : 0;
 }
 
+// 0 where the next change may still get the same time: file systems note it in steps of up to two seconds.
+platform::FileTime SettledChangeTime(const struct statx& facts)
+{
+    constexpr std::int64_t kSettled = 3;
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    const bool settled = facts.stx_ctime.tv_sec < now.tv_sec - kSettled;
+    return settled ? ToFileTime(facts.stx_ctime.tv_sec, facts.stx_ctime.tv_nsec) : 0;
+}
+
 }  // namespace
 
 platform::FileTime ToFileTime(std::int64_t seconds, std::uint32_t nanoseconds)
@@ -125,11 +135,12 @@ bool SetModificationTime(const std::string& path, const timespec& modified)
     return utimensat(AT_FDCWD, Native(path), times, 0) == 0 || Fail();
 }
 
-std::optional<platform::FileFacts> ReadFacts(const std::string& path)
+std::optional<platform::FileFacts> ReadFacts(const std::string& path, const platform::FileFacts* known)
 {
     struct statx facts {
     };
-    constexpr unsigned kWanted = STATX_TYPE | STATX_SIZE | STATX_MTIME | STATX_BTIME | STATX_MNT_ID;
+    constexpr unsigned kWanted =
+        STATX_TYPE | STATX_SIZE | STATX_MTIME | STATX_CTIME | STATX_BTIME | STATX_MNT_ID;
     if (statx(AT_FDCWD, Native(path), 0, kWanted, &facts) != 0) {
         Fail();
         return std::nullopt;
@@ -139,6 +150,12 @@ std::optional<platform::FileFacts> ReadFacts(const std::string& path)
     result.isRegular = S_ISREG(facts.stx_mode);
     result.size = facts.stx_size;
     result.lastWriteTime = ToFileTime(facts.stx_mtime.tv_sec, facts.stx_mtime.tv_nsec);
+    result.changeTime = SettledChangeTime(facts);
+    if (known && known->changeTime != 0 && known->changeTime == result.changeTime &&
+        known->lastWriteTime == result.lastWriteTime && AttributeOf(path, facts) == kOwnAttribute) {
+        result.creationTime = known->creationTime;
+        return result;
+    }
     if (result.isFolder || result.isRegular)
         result.creationTime = RecordedCreationTime(path, facts);
     if (result.creationTime == 0 && (facts.stx_mask & STATX_BTIME) != 0)

@@ -27,7 +27,9 @@ bool SetModificationTime(int fd, const timespec& modified);
 bool SetModificationTime(const std::string& path, const timespec& modified);
 
 // One statx, and for regular files and folders one read of an attribute.
-std::optional<platform::FileFacts> ReadFacts(const std::string& path);
+// The recorded creation time is taken from `known`, an earlier answer, where no change has happened since.
+std::optional<platform::FileFacts> ReadFacts(const std::string& path,
+                                             const platform::FileFacts* known = nullptr);
 bool WriteCreationTime(const std::string& path, platform::FileTime time);
 // Gives the open file `to`, on the same file system, the creation time recorded for `from`, if there is one.
 void KeepCreationTime(const std::string& from, int to);

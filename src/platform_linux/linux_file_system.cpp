@@ -60,6 +60,12 @@ std::optional<platform::FileFacts> CLinuxFileSystem::FindFirstFile(const std::st
     return ReadFacts(path);
 }
 
+std::optional<platform::FileFacts> CLinuxFileSystem::FindFirstFileAgain(const std::string& path,
+                                                                        const platform::FileFacts& known)
+{
+    return ReadFacts(path, &known);
+}
+
 platform::Presence CLinuxFileSystem::FindPresence(const std::string& path)
 {
     return PresenceOf(path);

@@ -17,6 +17,8 @@ class CLinuxFileSystem final : public platform::CFileSystem
 public:
     std::unique_ptr<platform::CFile> Open(const std::string& path, platform::OpenMode mode) override;
     std::optional<platform::FileFacts> FindFirstFile(const std::string& path) override;
+    std::optional<platform::FileFacts> FindFirstFileAgain(const std::string& path,
+                                                          const platform::FileFacts& known) override;
     platform::Presence FindPresence(const std::string& path) override;
     std::unique_ptr<platform::CFolderReader> ReadFolder(const std::string& path) override;
 

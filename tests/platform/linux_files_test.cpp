@@ -152,6 +152,24 @@ TEST_F(LinuxFiles, KeepsModeAndCreationTimeOfWhatItReplaces)
     }
 }
 
+TEST_F(LinuxFiles, LooksUpACreationTimeAgainOnlyWhereAChangeIsSeen)
+{
+    const std::string fresh = folder.Make("file", "old");
+    if (!files.SetFileTime(fresh, 127'000'000'012'345'678, 0))
+        GTEST_SKIP() << "no extended attributes here: " << files.LastError();
+    const std::string settled = "/etc/passwd";
+    for (const auto& [path, isKept] : {std::pair{fresh, false}, {settled, true}}) {
+        const platform::FileFacts facts = files.FindFirstFile(path).value();
+        platform::FileFacts known = facts;
+        known.creationTime = 42;
+
+        EXPECT_EQ(files.FindFirstFileAgain(path, known)->creationTime, isKept ? 42 : facts.creationTime)
+            << path;
+        ++known.lastWriteTime;
+        EXPECT_EQ(files.FindFirstFileAgain(path, known)->creationTime, facts.creationTime) << path;
+    }
+}
+
 TEST_F(LinuxFiles, RespectsWhatMayNotBeWrittenOrRead)
 {
     const std::string shut = folder.Path("shut");
