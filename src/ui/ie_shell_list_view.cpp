@@ -84,13 +84,15 @@ QWidget* CIEShellListView::MakeBar(const CMainMenu& menu)
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);
     row->setSpacing(kGrid);
-    row->addWidget(MakeButton(up, QStringLiteral("up"), bar));
+    QToolButton* const wayUp = MakeButton(up, QStringLiteral("up"), bar);
+    row->addWidget(wayUp);
     row->addSpacing(kGrid);
     row->addWidget(path, 1);
     row->addWidget(sizeControl);
     row->addSpacing(2 * kGrid);
     row->addWidget(MakeButton(menu.Action(app::CommandId::thumbnails), QStringLiteral("thumbnails"), bar));
     row->addWidget(MakeButton(menu.Action(app::CommandId::details), QStringLiteral("details"), bar));
+    setTabOrder(wayUp, sizeControl);
     return bar;
 }
 

@@ -16,6 +16,7 @@
 #include "ui/commands/view_commands.h"
 #include "ui/files/file_actions.h"
 #include "ui/frame/context_menus.h"
+#include "ui/frame/focus_walk.h"
 #include "ui/frame/frame_bars.h"
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
@@ -73,6 +74,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override { return WalkFocus(*this, next); }
 
 private:
     void LoadSettings();
