@@ -5,6 +5,7 @@
 #include "ui/viewer/picture_viewer.h"
 #include "ui/viewer/slide_show.h"
 
+#include <QApplication>
 #include <QScreen>
 
 #include <utility>
@@ -126,6 +127,9 @@ void CViewerPages::SetFullScreen(bool on)
         setCurrentWidget(viewer);
         setFocusProxy(viewer);
         window()->activateWindow();
+        // The window system's word for it never comes: Qt gave the keys to the window that took the viewer
+        // in.
+        QApplication::setActiveWindow(window());
     }
     viewer->setFocus(Qt::OtherFocusReason);
 }
