@@ -212,30 +212,6 @@
    <source>No program is known for this kind of file</source>
    <translation type="unfinished">لا يُعرف برنامج لهذا النوع من الملفات</translation>
   </message>
-  <message id="filesCut">
-   <source>Cu&amp;t</source>
-   <translation type="unfinished">&amp;قص</translation>
-  </message>
-  <message id="filesCopy">
-   <source>&amp;Copy</source>
-   <translation type="unfinished">&amp;نسخ</translation>
-  </message>
-  <message id="filesPaste">
-   <source>&amp;Paste</source>
-   <translation type="unfinished">&amp;لصق</translation>
-  </message>
-  <message id="filesRename">
-   <source>&amp;Rename</source>
-   <translation type="unfinished">إعادة &amp;تسمية</translation>
-  </message>
-  <message id="filesNewFolder">
-   <source>&amp;New Folder...</source>
-   <translation type="unfinished">مجلد &amp;جديد...</translation>
-  </message>
-  <message id="filesDelete">
-   <source>&amp;Delete</source>
-   <translation type="unfinished">&amp;حذف</translation>
-  </message>
   <message id="filesDeleteForGood">
    <source>Delete for &amp;Good</source>
    <translation type="unfinished">حذف &amp;نهائي</translation>

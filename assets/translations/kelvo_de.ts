@@ -200,30 +200,6 @@
    <source>No program is known for this kind of file</source>
    <translation type="unfinished">Für diese Art von Datei ist kein Programm bekannt</translation>
   </message>
-  <message id="filesCut">
-   <source>Cu&amp;t</source>
-   <translation type="unfinished">A&amp;usschneiden</translation>
-  </message>
-  <message id="filesCopy">
-   <source>&amp;Copy</source>
-   <translation type="unfinished">&amp;Kopieren</translation>
-  </message>
-  <message id="filesPaste">
-   <source>&amp;Paste</source>
-   <translation type="unfinished">&amp;Einfügen</translation>
-  </message>
-  <message id="filesRename">
-   <source>&amp;Rename</source>
-   <translation type="unfinished">Um&amp;benennen</translation>
-  </message>
-  <message id="filesNewFolder">
-   <source>&amp;New Folder...</source>
-   <translation type="unfinished">&amp;Neuer Ordner …</translation>
-  </message>
-  <message id="filesDelete">
-   <source>&amp;Delete</source>
-   <translation type="unfinished">&amp;Löschen</translation>
-  </message>
   <message id="filesDeleteForGood">
    <source>Delete for &amp;Good</source>
    <translation type="unfinished">End&amp;gültig löschen</translation>

@@ -10,13 +10,18 @@ namespace app
 std::span<const std::vector<CommandId>> ContextMenu(MenuPane pane)
 {
     using enum CommandId;
-    static const std::array<std::vector<CommandId>, 3> ofLeftPane{
-        {{copy, cut, paste}, {search, refresh}, {properties}}};
-    static const std::array<std::vector<CommandId>, 5> ofList{{{copy, cut, paste, CommandId::remove},
-                                                               {slideShow, print, eMail},
-                                                               {selectAll, invertSelection},
-                                                               {refresh},
-                                                               {properties}}};
+    static const std::array<std::vector<CommandId>, 4> ofLeftPane{
+        {{newFolder},
+         {copy, cut, paste, CommandId::remove, CommandId::rename},
+         {search, refresh},
+         {properties}}};
+    static const std::array<std::vector<CommandId>, 6> ofList{
+        {{copy, cut, paste, CommandId::remove, CommandId::rename},
+         {newFolder},
+         {slideShow, print, eMail},
+         {selectAll, invertSelection},
+         {refresh},
+         {properties}}};
     return pane == MenuPane::leftPane ? std::span<const std::vector<CommandId>>(ofLeftPane) : ofList;
 }
 

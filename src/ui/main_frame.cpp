@@ -13,6 +13,7 @@
 #include "ui/list/list_commands.h"
 #include "ui/printer_defaults.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -126,10 +127,17 @@ void CMainFrame::ConnectFiles()
     };
     connect(files, &CFileActions::UndoChanged, this, showUndo);
     showUndo(UndoText(nullptr), false);
-    auto* forGood = new QAction(this);
+    auto* forGood = new QAction(Text(StringId::filesDeleteForGood), this);
     forGood->setShortcut(Qt::SHIFT | Qt::Key_Delete);
     connect(forGood, &QAction::triggered, files, &CFileActions::DeleteForGood);
     addAction(forGood);
+    files->Attend(*menu->Menu(app::MenuId::edit), *menu);
+    for (const app::MenuPane pane : {app::MenuPane::leftPane, app::MenuPane::list}) {
+        QMenu& contextMenu = *contextMenus->Menu(pane);
+        contextMenu.insertAction(menu->Action(app::CommandId::rename), forGood);
+        files->Attend(contextMenu, *menu);
+    }
+    files->AddOpening(*contextMenus->Menu(app::MenuPane::list));
 }
 
 void CMainFrame::Tick()

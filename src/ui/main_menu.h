@@ -23,6 +23,7 @@ class CMainMenu : public QObject
 public:
     // Fills the window's menu bar.
     explicit CMainMenu(QMainWindow& window);
+    QMenu* Menu(app::MenuId id) const { return menus.at(id); }
     QAction* Action(app::CommandId id) const { return actions.at(id); }
     void Check(app::CommandId id) { actions.at(id)->setChecked(true); }
 

@@ -469,9 +469,7 @@ TEST_F(FilesTest, OpenWithOffersTheDesktopsProgramsInItsOrder)
 
     Open();
     Select({"-a b.jpg"});
-    QMenu menu;
-    frame->Files()->FillListMenu(menu);
-    auto* with = menu.findChild<QMenu*>();
+    auto* with = frame->ContextMenus().Menu(app::MenuPane::list)->findChild<QMenu*>();
     Q_EMIT with->aboutToShow();
     with->actions().at(1)->trigger();
     EXPECT_THAT(realShell.started, ElementsAre("sh", paths[0]));

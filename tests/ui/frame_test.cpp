@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <set>
+
 using app::CommandId;
 
 namespace
@@ -177,4 +179,45 @@ TEST_F(FrameTest, EveryControlHasANameAndF6GoesFromPaneToPane)
     EXPECT_EQ(frame->focusWidget(), frame->LeftView()->Tree());
     QTest::keyClick(frame.get(), Qt::Key_F6);
     EXPECT_EQ(frame->focusWidget(), &View());
+}
+
+TEST_F(FrameTest, TheTabKeyStopsAtEveryControlThatTakesIt)
+{
+    Add("a.jpg");
+    Open();
+    std::set<QWidget*> wanted;
+    for (auto* control : frame->findChildren<QWidget*>()) {
+        const bool isStop = (control->focusPolicy() & Qt::TabFocus) != 0 && !control->focusProxy();
+        if (isStop && control->isVisible() && control->isEnabled())
+            wanted.insert(control);
+    }
+
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        std::set<QWidget*> reached;
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            QTest::keyClick(frame->focusWidget(), key);
+            reached.insert(frame->focusWidget());
+        }
+        EXPECT_EQ(reached, wanted);
+    }
+}
+
+TEST_F(FrameTest, AMenuOffersOnlyTheWorkOnFilesThatItsPaneCanDo)
+{
+    Add("a.jpg");
+    Open();
+    List().SelectNone();
+    const auto* menus = frame->Menu();
+    QMenu* edit = menus->Menu(app::MenuId::edit);
+    for (const bool chosen : {false, true}) {
+        if (chosen)
+            Select({"a.jpg"});
+        Q_EMIT edit->aboutToShow();
+        for (const CommandId id : {CommandId::copy, CommandId::cut, CommandId::remove, CommandId::rename})
+            EXPECT_EQ(menus->Action(id)->isEnabled(), chosen);
+        EXPECT_TRUE(menus->Action(CommandId::newFolder)->isEnabled());
+
+        Q_EMIT edit->aboutToHide();
+        EXPECT_TRUE(menus->Action(CommandId::copy)->isEnabled());
+    }
 }

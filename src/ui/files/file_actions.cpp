@@ -15,9 +15,11 @@
 #include "ui/theme.h"
 #include "ui/words.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -51,6 +53,10 @@ CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWid
         if (!settingClipboard && !QGuiApplication::clipboard()->ownsClipboard())
             SetFaded({});
     });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+        if (qobject_cast<QMenuBar*>(now))
+            focusBeforeMenu = before;
+    });
     WatchList();
     for (CFolderTree* tree : left.Trees())
         WatchTree(tree);
@@ -59,7 +65,8 @@ CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWid
 
 bool CFileActions::IsInTree() const
 {
-    return left.isAncestorOf(window.focusWidget());
+    const QWidget* focus = window.focusWidget();
+    return left.isAncestorOf(qobject_cast<const QMenuBar*>(focus) ? focusBeforeMenu.data() : focus);
 }
 
 std::vector<std::string> CFileActions::Chosen() const

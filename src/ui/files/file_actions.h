@@ -11,6 +11,8 @@
 #include "ui/files/drop_handler.h"
 #include "ui/files/file_jobs.h"
 
+#include <QPointer>
+
 #include <deque>
 #include <set>
 
@@ -22,6 +24,7 @@ namespace ui
 class CFolderTree;
 class CIEShellListCtrl;
 class CLeftView;
+class CMainMenu;
 
 class CFileActions : public QObject
 {
@@ -44,9 +47,10 @@ public:
     void NewFolder();
     void Undo();
 
-    // Fill the context menus: of the list, and of a tree with the folder at `folder`.
-    void FillListMenu(QMenu& menu);
-    void FillTreeMenu(QMenu& menu, CFolderTree& tree, const QModelIndex& folder);
+    // While the menu is open, its commands on files that would do nothing are disabled.
+    void Attend(QMenu& menu, const CMainMenu& commands);
+    // Puts "Open" and "Open With" at the top of the list's menu.
+    void AddOpening(QMenu& menu);
 
     const CFileJobs& Jobs() const { return jobs; }
 
@@ -91,7 +95,8 @@ private:
     void WatchTree(CFolderTree* tree);
     void WatchList();
     void Drag(const std::vector<std::string>& paths, QWidget* from);
-    void FillOpenWith(QMenu& menu, const std::vector<std::string>& paths);
+    void FillOpenWith(QMenu& menu);
+    void EnableCommands(const CMainMenu& commands) const;
     void SetFaded(const std::set<std::string>& paths);
 
     CIEShellListCtrl& list;
@@ -102,6 +107,7 @@ private:
     std::deque<Asked> asked;
     std::set<std::string> faded;
     bool settingClipboard = false;
+    QPointer<QWidget> focusBeforeMenu;  // a menu bar takes the focus while it is used
 };
 
 }  // namespace ui

@@ -10,6 +10,7 @@
 #include "ui/icons.h"
 #include "ui/ie_shell_list_ctrl.h"
 #include "ui/left_view.h"
+#include "ui/main_menu.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
@@ -19,7 +20,7 @@
 #include <QMenu>
 #include <QPainter>
 
-#include <memory>
+#include <array>
 
 namespace ui
 {
@@ -28,6 +29,12 @@ namespace
 {
 
 constexpr int kDragSide = 12 * kGrid;
+
+using app::CommandId;
+
+// What a selection is needed for, or a folder, or something to paste.
+constexpr std::array kFileCommands = {CommandId::copy,   CommandId::cut,    CommandId::paste,
+                                      CommandId::remove, CommandId::rename, CommandId::newFolder};
 
 // What hangs on the mouse: a sheet with the number of files.
 QPixmap DragPicture(std::size_t count, const QWidget& widget)
@@ -94,69 +101,51 @@ void CFileActions::Drag(const std::vector<std::string>& paths, QWidget* from)
     drag->exec(Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::CopyAction);
 }
 
-void CFileActions::FillListMenu(QMenu& menu)
+void CFileActions::Attend(QMenu& menu, const CMainMenu& commands)
 {
-    const std::vector<std::string> paths = list.SelectedPaths();
-    const bool any = !paths.empty();
-    const auto add = [&](StringId text, const QKeySequence& keys, bool enabled, auto work) {
-        QAction* action = menu.addAction(Text(text), this, work);
-        action->setShortcut(keys);
-        action->setEnabled(enabled);
-    };
-    if (any) {
-        add(StringId::filesOpen, {}, paths.size() == 1,
-            [this] { list.Activate(list.View()->currentIndex()); });
-        FillOpenWith(*menu.addMenu(Text(StringId::filesOpenWith)), paths);
-        menu.addSeparator();
-    }
-    add(StringId::filesCut, QKeySequence::Cut, any, [this] { Cut(); });
-    add(StringId::filesCopy, QKeySequence::Copy, any, [this] { Copy(); });
-    add(StringId::filesPaste, QKeySequence::Paste, !list.List().Folder().empty(), [this] { Paste(); });
-    menu.addSeparator();
-    add(StringId::filesRename, Qt::Key_F2, paths.size() == 1, [this] { RenameInList(); });
-    add(StringId::filesDelete, Qt::Key_Delete, any, [this] { Delete(); });
-    add(StringId::filesDeleteForGood, Qt::SHIFT | Qt::Key_Delete, any, [this] { DeleteForGood(); });
-    menu.addSeparator();
-    add(StringId::filesNewFolder, Qt::CTRL | Qt::SHIFT | Qt::Key_N, !list.List().Folder().empty(),
-        [this] { AskForFolder(list.List().Folder()); });
-}
-
-void CFileActions::FillTreeMenu(QMenu& menu, CFolderTree& tree, const QModelIndex& folder)
-{
-    const std::string path = tree.PathOf(folder);
-    if (path.empty())
-        return;
-    const bool plain = tree.IsPlainFolder(folder);
-    const QPersistentModelIndex kept = folder;
-    const auto add = [&](StringId text, const QKeySequence& keys, bool enabled, auto work) {
-        QAction* action = menu.addAction(Text(text), this, work);
-        action->setShortcut(keys);
-        action->setEnabled(enabled);
-    };
-    const auto put = [this, path](TransferKind kind) {
-        settingClipboard = true;
-        QGuiApplication::clipboard()->setMimeData(MakeFileMime({kind, {path}}));
-        settingClipboard = false;
-        SetFaded({});
-    };
-    add(StringId::filesNewFolder, Qt::CTRL | Qt::SHIFT | Qt::Key_N, true,
-        [this, path] { AskForFolder(path); });
-    menu.addSeparator();
-    add(StringId::filesCut, QKeySequence::Cut, plain, [put] { put(TransferKind::move); });
-    add(StringId::filesCopy, QKeySequence::Copy, true, [put] { put(TransferKind::copy); });
-    add(StringId::filesPaste, QKeySequence::Paste, MayHoldFiles(*QGuiApplication::clipboard()->mimeData()),
-        [this, path] { PasteInto(path); });
-    menu.addSeparator();
-    add(StringId::filesRename, Qt::Key_F2, plain, [this, &tree, kept] { RenameInTree(tree, kept); });
-    add(StringId::filesDelete, Qt::Key_Delete, plain, [this, path] {
-        Start({browser::FileTask::trash, {path}, {}, {}, {}});
+    connect(&menu, &QMenu::aboutToShow, this, [this, &commands] { EnableCommands(commands); });
+    // A key asks when it is pressed; it must not find what held for a menu.
+    connect(&menu, &QMenu::aboutToHide, this, [&commands] {
+        for (const CommandId id : kFileCommands)
+            commands.Action(id)->setEnabled(true);
     });
 }
 
-void CFileActions::FillOpenWith(QMenu& menu, const std::vector<std::string>& paths)
+void CFileActions::EnableCommands(const CMainMenu& commands) const
+{
+    const bool any = !Chosen().empty();
+    const bool hasFolder = !Receiver().empty();
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    for (const CommandId id : {CommandId::cut, CommandId::remove, CommandId::rename})
+        commands.Action(id)->setEnabled(any);
+    commands.Action(CommandId::copy)->setEnabled(any || (IsInTree() && hasFolder));
+    commands.Action(CommandId::paste)
+        ->setEnabled(hasFolder && data && (MayHoldFiles(*data) || data->hasImage()));
+    commands.Action(CommandId::newFolder)->setEnabled(hasFolder);
+}
+
+void CFileActions::AddOpening(QMenu& menu)
+{
+    QAction* const first = menu.actions().constFirst();
+    QAction* const open = new QAction(Text(StringId::filesOpen), &menu);
+    connect(open, &QAction::triggered, this, [this] { list.Activate(list.View()->currentIndex()); });
+    auto* const with = new QMenu(Text(StringId::filesOpenWith), &menu);
+    menu.insertAction(first, open);
+    menu.insertMenu(first, with);
+    menu.insertSeparator(first);
+    connect(&menu, &QMenu::aboutToShow, this, [this, open, with] {
+        const std::size_t count = list.SelectedPaths().size();
+        open->setEnabled(count == 1);
+        with->setEnabled(count > 0);
+    });
+    FillOpenWith(*with);
+}
+
+void CFileActions::FillOpenWith(QMenu& menu)
 {
     // Looked up when the menu is opened: most context menus never open it.
-    connect(&menu, &QMenu::aboutToShow, this, [&menu, paths] {
+    connect(&menu, &QMenu::aboutToShow, this, [this, &menu] {
+        const std::vector<std::string> paths = list.SelectedPaths();
         menu.clear();
         for (const DesktopApp& app : AppsFor(paths)) {
             // An "&" of the name is no mark of a key.
