@@ -125,6 +125,13 @@ void CFolderTree::UpdateVolumes(const std::vector<app::Place>& volumes)
     }
 }
 
+QItemSelectionModel::SelectionFlags CFolderTree::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const
+{
+    return index.isValid() || !event ? QTreeView::selectionCommand(index, event)
+                                     : QItemSelectionModel::NoUpdate;
+}
+
 void CFolderTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTreeView::currentChanged(current, previous);

@@ -44,6 +44,9 @@ Q_SIGNALS:
 
 protected:
     void startDrag(Qt::DropActions) override { Q_EMIT DragStarts(); }
+    // A click beside the folders leaves the one on show selected.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

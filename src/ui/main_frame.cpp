@@ -130,6 +130,8 @@ void CMainFrame::ConnectFiles()
     auto* forGood = new QAction(Text(StringId::filesDeleteForGood), this);
     forGood->setShortcut(Qt::SHIFT | Qt::Key_Delete);
     connect(forGood, &QAction::triggered, files, &CFileActions::DeleteForGood);
+    QAction* const remove = menu->Action(app::CommandId::remove);
+    connect(remove, &QAction::changed, forGood, [=] { forGood->setEnabled(remove->isEnabled()); });
     addAction(forGood);
     files->Attend(*menu->Menu(app::MenuId::edit), *menu);
     for (const app::MenuPane pane : {app::MenuPane::leftPane, app::MenuPane::list}) {
