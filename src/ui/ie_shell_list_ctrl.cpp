@@ -234,7 +234,11 @@ void CIEShellListCtrl::SetThumbnailSide(int pixels)
 void CIEShellListCtrl::SayWhyEmpty()
 {
     if (list.State() == browser::FillState::failed) {
-        const bool missing = platform::Os().files->FindPresence(list.Folder()) == platform::Presence::missing;
+        const auto facts = platform::Os().files->FindFirstFile(list.Folder());
+        // A file may have taken the folder's place.
+        const bool missing =
+            facts ? !facts->isFolder
+                  : platform::Os().files->FindPresence(list.Folder()) == platform::Presence::missing;
         emptyState->Show(QStringLiteral("folder"),
                          Text(missing ? StringId::listFolderGone : StringId::listFolderForbidden),
                          Shown(list.Folder()) + QStringLiteral("\n") + Shown(list.FillError()));

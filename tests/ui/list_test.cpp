@@ -239,6 +239,7 @@ TEST_F(ListTest, AnEmptyListSaysWhy)
         {CommandId::filterAllFiles, folder + "/none", "This folder is empty"},
         {CommandId::filterAllFiles, files.forbidden, "You may not look into this folder"},
         {CommandId::filterAllFiles, folder + "/gone", "This folder is no longer there"},
+        {CommandId::filterAllFiles, folder + "/notes.txt", "This folder is no longer there"},
         {CommandId::filterAllFiles, folder, ""},
     };
     for (const auto& row : rows) {
