@@ -935,10 +935,6 @@
    <source>Taking pictures from a scanner is not part of this version yet</source>
    <translation type="unfinished">جلب الصور من الماسح ليس جزءًا من هذا الإصدار بعد</translation>
   </message>
-  <message id="missingStyle">
-   <source>This view is not part of this version yet</source>
-   <translation type="unfinished">طريقة العرض هذه ليست جزءًا من هذا الإصدار بعد</translation>
-  </message>
   <message id="aboutTitle">
    <source>About</source>
    <translation type="unfinished">حول</translation>

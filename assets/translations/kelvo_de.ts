@@ -855,10 +855,6 @@
    <source>Taking pictures from a scanner is not part of this version yet</source>
    <translation type="unfinished">Bilder von einem Scanner zu übernehmen gehört noch nicht zu dieser Version</translation>
   </message>
-  <message id="missingStyle">
-   <source>This view is not part of this version yet</source>
-   <translation type="unfinished">Diese Ansicht gehört noch nicht zu dieser Version</translation>
-  </message>
   <message id="aboutTitle">
    <source>About</source>
    <translation type="unfinished">Über</translation>

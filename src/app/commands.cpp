@@ -49,8 +49,8 @@ constexpr std::array kCommands = {
     Command{search, MenuId::edit, commandSearch, "F3", Mark::none, true},
 
     Command{thumbnails, MenuId::view, commandThumbnails, "", Mark::view},
-    Command{smallIcons, MenuId::view, commandSmallIcons, "", Mark::view, false, missingStyle},
-    Command{CommandId::list, MenuId::view, commandList, "", Mark::view, false, missingStyle},
+    Command{smallIcons, MenuId::view, commandSmallIcons, "", Mark::view},
+    Command{CommandId::list, MenuId::view, commandList, "", Mark::view},
     Command{details, MenuId::view, commandDetails, "", Mark::view},
     Command{sizeLarge, MenuId::thumbnailSize, commandLarge, "", Mark::choice},
     Command{sizeMedium, MenuId::thumbnailSize, commandMedium, "", Mark::choice},

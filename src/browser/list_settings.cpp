@@ -102,7 +102,7 @@ bool CListSettings::SaveSettings() const
 
 std::optional<int> CListSettings::UsableViewType() const
 {
-    const bool known = viewType == kViewThumbnails || viewType == kViewDetails;
+    const bool known = viewType >= kViewThumbnails && viewType <= kViewList;
     return known ? std::optional(viewType) : std::nullopt;
 }
 

@@ -22,6 +22,8 @@ inline constexpr int kStyleSortDescending = 0x20;
 
 inline constexpr int kViewThumbnails = 0;
 inline constexpr int kViewDetails = 1;
+inline constexpr int kViewSmallIcons = 2;
+inline constexpr int kViewList = 3;
 
 inline constexpr int kThumbSmall = 80;
 inline constexpr int kThumbMedium = 120;

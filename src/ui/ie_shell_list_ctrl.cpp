@@ -30,22 +30,27 @@ constexpr int kPatienceAtEnd = 10'000;
 CIEShellListCtrl::CIEShellListCtrl(const std::string& storeFolder, const std::string& settingsFile,
                                    QWidget* parent)
     : QWidget(parent), storeManager(storeFolder), list(&storeManager), nameModel(list, Columns::name),
-      allModel(list, Columns::all), filler(list), thumbnails(new CThumbnailView(list, this)),
-      details(new CDetailsView(this)), pages(new QStackedLayout(this)), emptyState(new CEmptyState(this)),
+      iconModel(list, Columns::nameAndIcon), allModel(list, Columns::all), filler(list),
+      thumbnails(new CThumbnailView(list, this)), details(new CDetailsView(this)),
+      compact(new CCompactView(this)), pages(new QStackedLayout(this)), emptyState(new CEmptyState(this)),
       layout(*this, settingsFile)
 {
     storeManager.Load();
     storeManager.SetPatience(kPatience);
     pages->addWidget(thumbnails);
     pages->addWidget(details);
+    pages->addWidget(compact);
     thumbnails->setModel(&nameModel);
     details->setModel(&allModel);
+    compact->setModel(&iconModel);
     setFocusProxy(thumbnails);
     WatchView(thumbnails);
     WatchView(details);
+    WatchView(compact);
     connect(thumbnails, &CThumbnailView::VisibleChanged, this, &CIEShellListCtrl::WorkAppeared);
     connect(thumbnails, &CThumbnailView::DragStarts, this, &CIEShellListCtrl::DragStarts);
     connect(details, &CDetailsView::DragStarts, this, &CIEShellListCtrl::DragStarts);
+    connect(compact, &CCompactView::DragStarts, this, &CIEShellListCtrl::DragStarts);
     connect(&filler, &CListFiller::PieceBegins, this, &CIEShellListCtrl::KeepState);
     connect(&filler, &CListFiller::Filled, this, &CIEShellListCtrl::OnFilled);
     connect(&filler, &CListFiller::ThumbnailsDue, this, &CIEShellListCtrl::WorkAppeared);
@@ -78,7 +83,26 @@ void CIEShellListCtrl::WatchView(QAbstractItemView* view)
 
 QAbstractItemView* CIEShellListCtrl::View() const
 {
-    return style == ViewStyle::thumbnails ? static_cast<QAbstractItemView*>(thumbnails) : details;
+    switch (style) {
+    case ViewStyle::thumbnails:
+        return thumbnails;
+    case ViewStyle::details:
+        return details;
+    default:
+        return compact;
+    }
+}
+
+CMediaListModel& CIEShellListCtrl::Model()
+{
+    switch (style) {
+    case ViewStyle::thumbnails:
+        return nameModel;
+    case ViewStyle::details:
+        return allModel;
+    default:
+        return iconModel;
+    }
 }
 
 void CIEShellListCtrl::OpenFolder(const std::string& path, const std::string& selectName)
@@ -131,8 +155,8 @@ bool CIEShellListCtrl::IsInUse() const
 
 int CIEShellListCtrl::FirstVisible() const
 {
-    if (style == ViewStyle::details)
-        return details->indexAt({0, 0}).row();
+    if (style != ViewStyle::thumbnails)
+        return View()->indexAt({0, 0}).row();
     const auto visible = thumbnails->Visible();
     return visible ? visible->first : -1;
 }
@@ -152,7 +176,7 @@ void CIEShellListCtrl::OnFilled()
         Model().Reset(true);
     keeper.Restore(*View(), list);
     SayWhyEmpty();
-    if (!thumbnails->Visible() || style == ViewStyle::details || list.IsUnsorted())
+    if (!thumbnails->Visible() || style != ViewStyle::thumbnails || list.IsUnsorted())
         filler.ReadFacts();
     Q_EMIT StatusChanged();
     Q_EMIT WorkAppeared();
@@ -269,6 +293,8 @@ void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
         ranges.emplace_back(range.top(), range.bottom());
     Model().Reset(false);
     style = wanted;
+    if (View() == compact)
+        compact->SetFlow(style == ViewStyle::list ? CCompactView::TopToBottom : CCompactView::LeftToRight);
     Model().Reset(hasItems);
     pages->setCurrentWidget(View());
     setFocusProxy(View());
@@ -277,7 +303,7 @@ void CIEShellListCtrl::SetViewStyle(ViewStyle wanted)
     SelectRows(ranges, current);
     View()->scrollTo(Model().index(first, 0), QAbstractItemView::PositionAtTop);
     emptyState->raise();
-    if (style == ViewStyle::details)
+    if (style != ViewStyle::thumbnails)
         filler.ReadFacts();
     Q_EMIT LayoutChanged();
     Q_EMIT StatusChanged();
@@ -358,6 +384,7 @@ void CIEShellListCtrl::RefreshSelecting(const std::vector<std::string>& names)
 void CIEShellListCtrl::SetFaded(const std::set<std::string>& paths)
 {
     nameModel.SetFaded(paths);
+    iconModel.SetFaded(paths);
     allModel.SetFaded(paths);
 }
 
@@ -424,7 +451,7 @@ bool CIEShellListCtrl::IsScreenComplete() const
     const auto visible = thumbnails->Visible();
     if (filler.IsReading())
         return false;
-    if (style == ViewStyle::details || !visible)
+    if (style != ViewStyle::thumbnails || !visible)
         return true;
     for (int row = visible->first; row <= visible->last && row < list.Count(); ++row) {
         const browser::MediaItem& item = list.Item(row);

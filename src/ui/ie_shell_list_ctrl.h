@@ -10,6 +10,7 @@
 #include "browser/thumb_db_mgr.h"
 #include "ui/details_view.h"
 #include "ui/empty_state.h"
+#include "ui/list/compact_view.h"
 #include "ui/list/list_layout.h"
 #include "ui/list_filler.h"
 #include "ui/media_list_model.h"
@@ -25,7 +26,7 @@
 namespace ui
 {
 
-enum class ViewStyle { thumbnails, details };
+enum class ViewStyle { thumbnails, details, smallIcons, list };
 
 struct SelectionFacts {
     int files = 0;
@@ -122,11 +123,12 @@ private:
     void KeepState();
     void OnFilled();
     void SayWhyEmpty();
-    CMediaListModel& Model() { return style == ViewStyle::thumbnails ? nameModel : allModel; }
+    CMediaListModel& Model();
 
     browser::CThumbDbMgr storeManager;
     browser::CMediaFileList list;
     CMediaListModel nameModel;
+    CMediaListModel iconModel;
     CMediaListModel allModel;
     CListFiller filler;
     CSelectionKeeper keeper;
@@ -134,6 +136,7 @@ private:
     ViewStyle style = ViewStyle::thumbnails;
     CThumbnailView* thumbnails;
     CDetailsView* details;
+    CCompactView* compact;
     QStackedLayout* pages;
     CEmptyState* emptyState;
     CListFollower follower;

@@ -65,7 +65,7 @@ int CMediaListModel::columnCount(const QModelIndex& parent) const
 {
     if (parent.isValid())
         return 0;
-    return columns == Columns::name ? 1 : dateTakenColumn + 1;
+    return columns == Columns::all ? dateTakenColumn + 1 : 1;
 }
 
 QVariant CMediaListModel::data(const QModelIndex& index, int role) const
@@ -83,7 +83,7 @@ QVariant CMediaListModel::data(const QModelIndex& index, int role) const
             return int(Qt::AlignRight | Qt::AlignVCenter);
         return {};
     case Qt::DecorationRole:
-        if (columns == Columns::all && index.column() == nameColumn)
+        if (columns != Columns::name && index.column() == nameColumn)
             return ThemedIcon(CItemPainter::IconName(list.Item(row), IconUse::kind));
         return {};
     case Qt::ForegroundRole:

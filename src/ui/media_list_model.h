@@ -15,7 +15,7 @@
 namespace ui
 {
 
-enum class Columns { name, all };
+enum class Columns { name, nameAndIcon, all };
 
 class CMediaListModel : public QAbstractTableModel
 {

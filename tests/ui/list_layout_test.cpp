@@ -147,6 +147,29 @@ TEST_F(ListLayoutTest, TheListComesBackAsItWasLeft)
     EXPECT_FALSE(List().Details()->IsDateTakenShown());
 }
 
+TEST_F(ListLayoutTest, EachViewShowsTheSameFilesKeepsTheSelectionAndComesBack)
+{
+    AddMany(40, ".mid");
+    Open();
+    Select({"photo3.mid", "photo7.mid"});
+    for (const CommandId view :
+         {CommandId::smallIcons, CommandId::list, CommandId::details, CommandId::thumbnails}) {
+        Run(view);
+
+        EXPECT_EQ(SelectedNames(), (Texts{"photo3.mid", "photo7.mid"}));
+        EXPECT_TRUE(View().isVisible() && IsOn(view));
+        QTest::keyClick(&View(), Qt::Key_Home);
+        QTest::keyClicks(&View(), QStringLiteral("photo39"));
+        EXPECT_EQ(SelectedNames(), Texts{"photo39.mid"});
+        QTest::mouseClick(View().viewport(), Qt::LeftButton, {},
+                          View().visualRect(View().model()->index(39, 0)).center());
+        EXPECT_EQ(SelectedNames(), Texts{"photo39.mid"}) << "it has been scrolled to";
+        Restart();
+        EXPECT_TRUE(IsOn(view));
+        Select({"photo3.mid", "photo7.mid"});
+    }
+}
+
 TEST_F(ListLayoutTest, OddSettingsGiveAWindowThatCanBeUsed)
 {
     AddMany(3, ".mid");

@@ -23,6 +23,10 @@ using browser::SortKey;
 constexpr std::array kSizes = {std::pair(CommandId::sizeLarge, browser::kThumbLarge),
                                std::pair(CommandId::sizeMedium, browser::kThumbMedium),
                                std::pair(CommandId::sizeSmall, browser::kThumbSmall)};
+constexpr std::array kStyles = {std::pair(CommandId::thumbnails, ViewStyle::thumbnails),
+                                std::pair(CommandId::smallIcons, ViewStyle::smallIcons),
+                                std::pair(CommandId::list, ViewStyle::list),
+                                std::pair(CommandId::details, ViewStyle::details)};
 constexpr std::array kFilters = {std::pair(CommandId::filterPhoto, browser::kFilterPhoto),
                                  std::pair(CommandId::filterVideo, browser::kFilterVideo),
                                  std::pair(CommandId::filterMedia, browser::kFilterMedia),
@@ -52,9 +56,10 @@ std::span<const CommandId> ListCommands()
 {
     using enum CommandId;
     static constexpr std::array kCommands = {
-        thumbnails,  details,        sizeLarge,       sizeMedium,    sizeSmall,      filterPhoto,
-        filterVideo, filterMedia,    filterAllFiles,  includeFolder, sortByName,     sortBySize,
-        sortByType,  sortByModified, sortByDateTaken, sortAscending, sortDescending, dateTakenColumn};
+        thumbnails,     smallIcons,      CommandId::list, details,        sizeLarge,
+        sizeMedium,     sizeSmall,       filterPhoto,     filterVideo,    filterMedia,
+        filterAllFiles, includeFolder,   sortByName,      sortBySize,     sortByType,
+        sortByModified, sortByDateTaken, sortAscending,   sortDescending, dateTakenColumn};
     return kCommands;
 }
 
@@ -69,8 +74,8 @@ void RunListCommand(CommandId id, CIEShellListCtrl& list)
         list.SetOrder({*key, order.descending});
     } else if (id == CommandId::sortAscending || id == CommandId::sortDescending) {
         list.SetOrder({order.key, id == CommandId::sortDescending});
-    } else if (id == CommandId::thumbnails || id == CommandId::details) {
-        list.SetViewStyle(id == CommandId::details ? ViewStyle::details : ViewStyle::thumbnails);
+    } else if (const ViewStyle* style = Find(kStyles, id)) {
+        list.SetViewStyle(*style);
     } else if (id == CommandId::includeFolder) {
         list.SetFilter(browser::CMediaFileList::kKeep, list.List().IncludeFolder() ? 0 : 1);
     } else if (id == CommandId::dateTakenColumn) {
@@ -86,8 +91,7 @@ void MarkListCommands(const CMainMenu& menu, const CIEShellListCtrl& list)
     Mark(menu, kKeys, order.key);
     menu.Action(CommandId::sortAscending)->setChecked(!order.descending);
     menu.Action(CommandId::sortDescending)->setChecked(order.descending);
-    menu.Action(CommandId::thumbnails)->setChecked(list.Style() == ViewStyle::thumbnails);
-    menu.Action(CommandId::details)->setChecked(list.Style() == ViewStyle::details);
+    Mark(menu, kStyles, list.Style());
     menu.Action(CommandId::includeFolder)->setChecked(list.List().IncludeFolder());
     menu.Action(CommandId::dateTakenColumn)->setChecked(list.Details()->IsDateTakenShown());
 }

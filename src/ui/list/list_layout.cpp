@@ -6,6 +6,9 @@
 #include "ui/display_text.h"
 #include "ui/ie_shell_list_ctrl.h"
 
+#include <algorithm>
+#include <array>
+
 namespace ui
 {
 
@@ -16,6 +19,12 @@ namespace
 constexpr std::string_view kOwner = "Files";
 // Milliseconds after the latest change.
 constexpr int kSaveDelay = 3000;
+
+// By the numbers that the settings have for them.
+constexpr std::array kStyles = {ViewStyle::thumbnails, ViewStyle::details, ViewStyle::smallIcons,
+                                ViewStyle::list};
+static_assert(kStyles[browser::kViewDetails] == ViewStyle::details &&
+              kStyles[browser::kViewList] == ViewStyle::list);
 
 std::string BuiltInHeading(int column)
 {
@@ -54,7 +63,7 @@ void CListLayout::Load()
     ctrl.SetThumbnailSide(settings.UsableThumbSize());
     ctrl.SetFilter(settings.filter, settings.includeFolder);
     if (const auto view = settings.UsableViewType())
-        ctrl.SetViewStyle(*view == browser::kViewDetails ? ViewStyle::details : ViewStyle::thumbnails);
+        ctrl.SetViewStyle(kStyles[static_cast<std::size_t>(*view)]);
     connect(&ctrl, &CIEShellListCtrl::LayoutChanged, &saveTimer, qOverload<>(&QTimer::start));
 }
 
@@ -98,7 +107,7 @@ void CListLayout::Collect()
     settings.TakeSortOrder(ctrl.List().Order());
     settings.rowSelection = details.RowSelection() ? 1 : 0;
     settings.columnSizing = details.ColumnSizing() ? 1 : 0;
-    settings.viewType = ctrl.Style() == ViewStyle::details ? browser::kViewDetails : browser::kViewThumbnails;
+    settings.viewType = static_cast<int>(std::ranges::find(kStyles, ctrl.Style()) - kStyles.begin());
     settings.thumbSize = ctrl.Thumbnails()->ThumbnailSide();
     settings.columnOrder = details.ColumnPositions();
     settings.columnWidths = details.ColumnWidths();
