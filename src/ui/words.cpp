@@ -46,6 +46,9 @@ QString Counted(StringId id, qint64 number)
     // The forms depend on small numbers and on the last digits of large ones.
     const int form = static_cast<int>(number < 1'000'000 ? number : 1'000'000 + number % 1'000'000);
     QString text = Translated(id, form);
+    // A text that is the same for every number has one form only.
+    if (text.isEmpty())
+        text = Translated(id, -1);
     if (text.isEmpty()) {
         text = QString::fromStdString(number == 1 ? app::Strings().LoadSingular(id)
                                                   : app::Strings().LoadString(id));

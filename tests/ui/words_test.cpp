@@ -62,6 +62,9 @@ TEST_F(Words, CountsTakeTheFormsOfTheUsersLanguage)
         ui::InstallTranslations(QStringLiteral(KELVO_PROGRAM_FOLDER));
 
         EXPECT_EQ(ui::Counted(StringId::statusFiles, row.number), row.text) << row.language;
+        // Has one form for all numbers.
+        EXPECT_EQ(ui::Counted(StringId::statusSelected, row.number).endsWith(QStringLiteral("selected")),
+                  row.text.endsWith(QStringLiteral("files")));
         EXPECT_EQ(QGuiApplication::layoutDirection(), row.direction) << row.language;
     }
 }
