@@ -179,7 +179,7 @@ QModelIndex CThumbnailView::moveCursor(CursorAction action, Qt::KeyboardModifier
         return {};
     const int row = currentIndex().row();
     if (row < 0)
-        return model()->index(0, 0);
+        return model()->index(action == MoveEnd ? count - 1 : 0, 0);
     const int columns = grid.Columns();
     const int pageRows = std::max(1, viewport()->height() / grid.RowHeight());
     const int aside = isRightToLeft() ? -1 : 1;
