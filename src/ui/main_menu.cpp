@@ -29,6 +29,15 @@ QList<QKeySequence> Keys(const app::Command& command)
     return keys;
 }
 
+// The text on a button: without the mark of its key and the dots, which some languages write as one sign.
+QString OnButton(QString text)
+{
+    text.remove(QLatin1Char('&'));
+    while (text.endsWith(QLatin1Char('.')) || text.endsWith(QChar(0x2026)))
+        text.chop(1);
+    return text.trimmed();
+}
+
 // Marks, in each text of a menu that has none yet, the first letter that no other has, so that Alt and the
 // letter, or the letter alone once the menu is open, choose it in any language.
 void GiveKeys(const QList<QAction*>& entries)
@@ -93,6 +102,7 @@ QMenu* CMainMenu::MenuOf(QMainWindow& window, app::MenuId id)
 QAction* CMainMenu::MakeAction(QMainWindow& window, const app::Command& command)
 {
     auto* action = new QAction(Text(command.text), &window);
+    action->setIconText(OnButton(action->text()));
     action->setShortcuts(Keys(command));
     action->setEnabled(command.missing == StringId::none);
     if (command.missing != StringId::none)
