@@ -64,7 +64,7 @@ TEST_F(Words, CountsTakeTheFormsOfTheUsersLanguage)
         EXPECT_EQ(ui::Counted(StringId::statusFiles, row.number), row.text) << row.language;
         // Has one form for all numbers.
         EXPECT_EQ(ui::Counted(StringId::statusSelected, row.number).endsWith(QStringLiteral("selected")),
-                  row.text.endsWith(QStringLiteral("files")));
+                  row.text.contains(QStringLiteral("file")));
         EXPECT_EQ(QGuiApplication::layoutDirection(), row.direction) << row.language;
     }
 }
