@@ -48,7 +48,7 @@ Sections ReadGroups(const QString& path)
     return groups;
 }
 
-// The value with the specification's escapes undone.
+// The value with a desktop entry's escapes undone.
 QString Unescaped(const QString& value)
 {
     QString plain;
