@@ -216,10 +216,6 @@
    <source>Delete for &amp;Good</source>
    <translation type="unfinished">حذف &amp;نهائي</translation>
   </message>
-  <message id="filesRefresh">
-   <source>Re&amp;fresh</source>
-   <translation type="unfinished">ت&amp;حديث</translation>
-  </message>
   <message id="filesUndo">
    <source>Undo</source>
    <translation type="unfinished">تراجع</translation>
@@ -372,7 +368,7 @@
    <translation type="unfinished">جارٍ الإيقاف...</translation>
   </message>
   <message id="filesClashTitle">
-   <source>Name taken</source>
+   <source>Name Taken</source>
    <translation type="unfinished">الاسم مستخدم</translation>
   </message>
   <message id="filesClashFile">
@@ -428,7 +424,7 @@
    <translation type="unfinished">تُجمع محتويات المجلدين، ولا يُستبدل شيء دون سؤال</translation>
   </message>
   <message id="filesAskTitle">
-   <source>Delete for good</source>
+   <source>Delete for Good</source>
    <translation type="unfinished">حذف نهائي</translation>
   </message>
   <message id="filesAskRemoveName">
@@ -447,7 +443,7 @@
    </translation>
   </message>
   <message id="filesAskRemoveMore">
-   <source>They cannot be brought back.</source>
+   <source>This cannot be undone.</source>
    <translation type="unfinished">لا يمكن استعادتها.</translation>
   </message>
   <message id="filesAskNoTrash" numerus="yes">
@@ -466,7 +462,7 @@
    <translation type="unfinished">حذف</translation>
   </message>
   <message id="filesAskFolderTitle">
-   <source>New folder</source>
+   <source>New Folder</source>
    <translation type="unfinished">مجلد جديد</translation>
   </message>
   <message id="filesAskFolderName">
@@ -506,7 +502,7 @@
    <translation type="unfinished">«%1» موجود بالفعل</translation>
   </message>
   <message id="filesReportTitle">
-   <source>Not everything was done</source>
+   <source>Not Everything Was Done</source>
    <translation type="unfinished">لم يتم كل شيء</translation>
   </message>
   <message id="filesNotCopied" numerus="yes">
@@ -620,7 +616,7 @@
    <translation type="unfinished">لا يمكن وضع مجلد في نفسه ولا مكان مجلد يحويه</translation>
   </message>
   <message id="filesBecauseForbidden">
-   <source>you may not do that here</source>
+   <source>you have no permission for this</source>
    <translation type="unfinished">لا يُسمح لك بذلك هنا</translation>
   </message>
   <message id="filesBecauseNoRoom">

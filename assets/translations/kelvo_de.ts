@@ -204,10 +204,6 @@
    <source>Delete for &amp;Good</source>
    <translation type="unfinished">End&amp;gültig löschen</translation>
   </message>
-  <message id="filesRefresh">
-   <source>Re&amp;fresh</source>
-   <translation type="unfinished">Ak&amp;tualisieren</translation>
-  </message>
   <message id="filesUndo">
    <source>Undo</source>
    <translation type="unfinished">Rückgängig</translation>
@@ -324,7 +320,7 @@
    <translation type="unfinished">Wird angehalten …</translation>
   </message>
   <message id="filesClashTitle">
-   <source>Name taken</source>
+   <source>Name Taken</source>
    <translation type="unfinished">Name vergeben</translation>
   </message>
   <message id="filesClashFile">
@@ -380,7 +376,7 @@
    <translation type="unfinished">Der Inhalt beider Ordner wird vereint; nichts wird ohne Frage ersetzt</translation>
   </message>
   <message id="filesAskTitle">
-   <source>Delete for good</source>
+   <source>Delete for Good</source>
    <translation type="unfinished">Endgültig löschen</translation>
   </message>
   <message id="filesAskRemoveName">
@@ -395,7 +391,7 @@
    </translation>
   </message>
   <message id="filesAskRemoveMore">
-   <source>They cannot be brought back.</source>
+   <source>This cannot be undone.</source>
    <translation type="unfinished">Das lässt sich nicht rückgängig machen.</translation>
   </message>
   <message id="filesAskNoTrash" numerus="yes">
@@ -410,7 +406,7 @@
    <translation type="unfinished">Löschen</translation>
   </message>
   <message id="filesAskFolderTitle">
-   <source>New folder</source>
+   <source>New Folder</source>
    <translation type="unfinished">Neuer Ordner</translation>
   </message>
   <message id="filesAskFolderName">
@@ -450,7 +446,7 @@
    <translation type="unfinished">„%1“ gibt es schon</translation>
   </message>
   <message id="filesReportTitle">
-   <source>Not everything was done</source>
+   <source>Not Everything Was Done</source>
    <translation type="unfinished">Nicht alles ist geschehen</translation>
   </message>
   <message id="filesNotCopied" numerus="yes">
@@ -540,7 +536,7 @@
    <translation type="unfinished">ein Ordner kann weder in sich selbst noch an die Stelle eines Ordners, der ihn enthält</translation>
   </message>
   <message id="filesBecauseForbidden">
-   <source>you may not do that here</source>
+   <source>you have no permission for this</source>
    <translation type="unfinished">das dürfen Sie hier nicht</translation>
   </message>
   <message id="filesBecauseNoRoom">
