@@ -179,6 +179,8 @@ void CItemPainter::DrawName(QPainter& painter, const QString& name, const QRect&
 {
     const QFontMetrics metrics = painter.fontMetrics();
     painter.setPen(CTheme::Colours().text);
+    // A name reads as its own letters do, whatever the layout.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     QRect line(box.left(), box.top(), box.width(), metrics.lineSpacing());
     for (const QString& text : NameLines(name, metrics, painter.font(), box.width())) {
         painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, text);

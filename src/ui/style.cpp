@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/style.h"
 
+#include "ui/icons.h"
+#include "ui/style_drawing.h"
 #include "ui/theme.h"
 
 #include <QAbstractItemView>
+#include <QGridLayout>
+#include <QMessageBox>
 #include <QPainter>
-#include <QStyleOption>
 
 namespace ui
 {
@@ -16,131 +19,25 @@ namespace
 
 constexpr int kScrollBarWidth = 12;
 constexpr int kShortestSlider = 36;
+constexpr int kLeastMessageWidth = 80 * kGrid;
 
-void DrawRow(const QStyleOptionViewItem& option, QPainter& painter)
+// Our own drawing in place of one of Qt's.
+const char* DrawingOf(QStyle::StandardPixmap picture)
 {
-    const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-    if (!selected && !hovered)
-        return;
-    const ThemeColours& colours = CTheme::Colours();
-    QRectF box = QRectF(option.rect).adjusted(0, 1, 0, -1);
-    painter.save();
-    painter.setClipRect(option.rect);
-    // Inner cells of a row reach beyond their clip so that only the row's ends are round.
-    using Item = QStyleOptionViewItem;
-    const bool open = option.viewItemPosition == Item::Middle;
-    const bool left = option.viewItemPosition == Item::End || open;
-    const bool right = option.viewItemPosition == Item::Beginning || open;
-    box.adjust(left ? -kCornerRadius : 0, 0, right ? kCornerRadius : 0, 0);
-    FillRounded(painter, box, selected ? colours.selection : colours.hover, kCornerRadius);
-    painter.restore();
-}
-
-void DrawFocus(const QStyleOption& option, QPainter& painter)
-{
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(CTheme::Colours().accent, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 1.5, -0.5, -1.5), kCornerRadius, kCornerRadius);
-    painter.restore();
-}
-
-// A scroll bar stands on the ground of what it scrolls.
-QColor GroundOf(const QWidget* scrollBar)
-{
-    for (const QWidget* above = scrollBar; above; above = above->parentWidget()) {
-        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(above))
-            return area->palette().color(area->viewport()->backgroundRole());
+    switch (picture) {
+    case QStyle::SP_MessageBoxInformation:
+        return "properties";
+    case QStyle::SP_MessageBoxQuestion:
+        return "question";
+    case QStyle::SP_MessageBoxWarning:
+    case QStyle::SP_MessageBoxCritical:
+        return "warning";
+    default:
+        return nullptr;
     }
-    return CTheme::Colours().window;
-}
-
-void DrawScrollBar(const QStyleOptionSlider& option, const QRect& slider, QPainter& painter)
-{
-    const ThemeColours& colours = CTheme::Colours();
-    if (option.maximum <= option.minimum)
-        return;
-    QColor handle = colours.dimText;
-    const bool active =
-        option.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider) &&
-        (option.state.testFlag(QStyle::State_MouseOver) || option.state.testFlag(QStyle::State_Sunken));
-    handle.setAlphaF(active ? 0.8F : 0.4F);
-    const QRectF box = QRectF(slider).adjusted(3, 3, -3, -3);
-    FillRounded(painter, box, handle, std::min(box.width(), box.height()) / 2);
-}
-
-void DrawSlider(const QStyleOptionSlider& option, const QRect& handle, QPainter& painter)
-{
-    const ThemeColours& colours = CTheme::Colours();
-    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-    const QColor accent = enabled ? colours.accent : colours.line;
-    QRectF groove(option.rect.left() + kGrid, option.rect.center().y() - 1, option.rect.width() - 2 * kGrid,
-                  3);
-    FillRounded(painter, groove, colours.line, 1.5);
-    groove.setRight(handle.center().x());
-    FillRounded(painter, groove, accent, 1.5);
-    QRectF knob(0, 0, 3 * kGrid, 3 * kGrid);
-    knob.moveCenter(QRectF(handle).center());
-    FillRounded(painter, knob, accent, knob.width() / 2);
-    if (option.state.testFlag(QStyle::State_HasFocus)) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(accent);
-        painter.setBrush(Qt::NoBrush);
-        painter.drawEllipse(knob.adjusted(-2.5, -2.5, 2.5, 2.5));
-    }
-}
-
-void DrawToolButton(const QStyleOption& option, QPainter& painter)
-{
-    const ThemeColours& colours = CTheme::Colours();
-    const bool down = option.state.testFlag(QStyle::State_On) || option.state.testFlag(QStyle::State_Sunken);
-    const bool hovered =
-        option.state.testFlag(QStyle::State_MouseOver) && option.state.testFlag(QStyle::State_Enabled);
-    if (down || hovered)
-        FillRounded(painter, option.rect, down ? colours.selection : colours.hover, kCornerRadius);
-}
-
-void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter)
-{
-    const ThemeColours& colours = CTheme::Colours();
-    if (option.state.testFlag(QStyle::State_Selected))
-        FillRounded(painter, option.rect.adjusted(0, 1, 0, -1), colours.selection, kGrid);
-    painter.setPen(option.state.testFlag(QStyle::State_Enabled) ? colours.text : colours.dimText);
-    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, option.text);
-}
-
-void DrawHeaderSection(const QStyleOption& option, QPainter& painter)
-{
-    const ThemeColours& colours = CTheme::Colours();
-    painter.fillRect(option.rect, colours.view);
-    painter.setPen(colours.line);
-    painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    painter.drawLine(option.rect.right(), option.rect.top() + 2 * kGrid, option.rect.right(),
-                     option.rect.bottom() - 2 * kGrid);
 }
 
 }  // namespace
-
-void FillRounded(QPainter& painter, const QRectF& box, const QColor& colour, qreal radius)
-{
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
-    painter.drawRoundedRect(box, radius, radius);
-    painter.restore();
-}
-
-void DrawBand(QPainter& painter, const QRect& band)
-{
-    QColor colour = CTheme::Colours().accent;
-    painter.setPen(colour);
-    colour.setAlpha(40);
-    painter.setBrush(colour);
-    painter.drawRect(band.adjusted(0, 0, -1, -1));
-}
 
 CStyle::CStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
@@ -152,7 +49,11 @@ void CStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
         return DrawRow(*item, *painter);
     if (element == PE_PanelButtonTool)
         return DrawToolButton(*option, *painter);
-    if (element == PE_PanelItemViewRow)
+    if (element == PE_PanelMenu)
+        return DrawMenuGround(*option, *painter);
+    if (element == PE_IndicatorToolBarSeparator)
+        return DrawToolBarSeparator(*option, *painter);
+    if (element == PE_PanelItemViewRow || element == PE_FrameMenu)
         return;
     // A tree draws the focus of a whole row without naming itself.
     if (element == PE_FrameFocusRect && (!widget || qobject_cast<const QAbstractItemView*>(widget)))
@@ -167,7 +68,7 @@ void CStyle::drawComplexControl(ComplexControl control, const QStyleOptionComple
 {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control == CC_ScrollBar && slider) {
-        painter->fillRect(option->rect, GroundOf(widget));
+        DrawScrollBarGround(*option, *painter, widget);
         return DrawScrollBar(*slider, subControlRect(control, option, SC_ScrollBarSlider, widget), *painter);
     }
     if (control == CC_Slider && slider)
@@ -182,18 +83,52 @@ void CStyle::drawControl(ControlElement element, const QStyleOption* option, QPa
         return DrawHeaderSection(*option, *painter);
     if (element == CE_Splitter)
         return painter->fillRect(option->rect, CTheme::Colours().line);
+    if (element == CE_ToolBar)
+        return DrawToolBar(*option, *painter);
     if (element == CE_MenuBarEmptyArea)
         return;
-    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (element == CE_MenuBarItem && item)
-        return DrawMenuBarItem(*item, *painter);
-    if (element == CE_MenuItem && item && item->state.testFlag(State_Selected)) {
-        FillRounded(*painter, item->rect.adjusted(kGrid, 0, -kGrid, 0), CTheme::Colours().selection, kGrid);
-        QStyleOptionMenuItem plain = *item;
-        plain.state.setFlag(State_Selected, false);
-        return QProxyStyle::drawControl(element, &plain, painter, widget);
+    const auto* progress = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+    if (element == CE_ProgressBarGroove && progress)
+        return;
+    if (element == CE_ProgressBarContents && progress && progress->maximum > progress->minimum)
+        return DrawProgress(*progress, *painter);
+    const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+    if (element == CE_ToolButtonLabel && tool && tool->toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
+        const QStyleOptionToolButton centred = Centred(*tool);
+        return QProxyStyle::drawControl(element, &centred, painter, widget);
     }
+    const auto* row = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element == CE_ItemViewItem && row && row->direction == Qt::RightToLeft && !row->text.isEmpty()) {
+        const QStyleOptionViewItem isolated = Isolated(*row);
+        return QProxyStyle::drawControl(element, &isolated, painter, widget);
+    }
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (item && (element == CE_MenuBarItem || element == CE_MenuItem))
+        return DrawMenuPart(element, *item, painter, widget);
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void CStyle::DrawMenuPart(ControlElement element, const QStyleOptionMenuItem& item, QPainter* painter,
+                          const QWidget* widget) const
+{
+    if (element == CE_MenuBarItem)
+        return DrawMenuBarItem(item, *painter);
+    if (item.menuItemType == QStyleOptionMenuItem::Separator && item.text.isEmpty())
+        return DrawMenuSeparator(item, *painter);
+    QStyleOptionMenuItem plain = item;
+    if (item.state.testFlag(State_Selected)) {
+        FillRounded(*painter, item.rect.adjusted(kGrid, 0, -kGrid, 0), CTheme::Colours().selection, kGrid);
+        plain.state.setFlag(State_Selected, false);
+    }
+    QProxyStyle::drawControl(element, &plain, painter, widget);
+}
+
+QRect CStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    // The focus is drawn around all that is drawn as selected.
+    if (element == SE_ItemViewItemFocusRect)
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 QRect CStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -228,6 +163,13 @@ QRect CStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* 
     }
 }
 
+QSize CStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                               const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_ItemViewItem ? size.expandedTo({0, 6 * kGrid}) : size;
+}
+
 int CStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -260,12 +202,30 @@ int CStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QW
     }
 }
 
+QIcon CStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
+{
+    if (const char* drawing = DrawingOf(picture))
+        return ThemedIcon(QString::fromLatin1(drawing));
+    return QProxyStyle::standardIcon(picture, option, widget);
+}
+
+void CStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // Qt makes message boxes as narrow as their first line.
+    auto* grid = qobject_cast<QMessageBox*>(widget) ? qobject_cast<QGridLayout*>(widget->layout()) : nullptr;
+    if (grid)
+        grid->addItem(new QSpacerItem(kLeastMessageWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 int CStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                       QStyleHintReturn* data) const
 {
     switch (hint) {
     case SH_ItemView_ShowDecorationSelected:
         return 1;
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
     // Nothing fades or blinks: an idle window costs nothing.
     case SH_Widget_Animation_Duration:
         return 0;
