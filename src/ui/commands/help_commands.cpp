@@ -30,10 +30,10 @@ void ShowHelp(const app::CKelvoApp& application)
 void ShowAbout(CMainFrame& frame)
 {
     const app::CKelvoApp& application = frame.Application();
-    auto* box = new QMessageBox(QMessageBox::NoIcon, Text(StringId::aboutTitle),
-                                QStringLiteral("%1 %2").arg(Shown(application.Title()),
-                                                            Shown(application.VersionText().substr(0, 4))),
-                                QMessageBox::Ok, &frame);
+    auto* box = new QMessageBox(
+        QMessageBox::NoIcon, Text(StringId::aboutTitle),
+        QStringLiteral("%1 %2").arg(frame.windowTitle(), Shown(application.VersionText().substr(0, 4))),
+        QMessageBox::Ok, &frame);
     box->setInformativeText(Text(StringId::aboutWhat));
     box->setIconPixmap(
         IconPixmap(QStringLiteral("kelvo"), 64, CTheme::Colours().text, frame.devicePixelRatioF()));
