@@ -57,7 +57,8 @@ CStatusBar::CStatusBar(QWidget* parent)
 {
     setSizeGripEnabled(false);
     setContentsMargins(2 * kGrid, 0, 2 * kGrid, 0);
-    files->setContentsMargins(0, 0, 4 * kGrid, 0);
+    // Qt does not mirror margins.
+    files->setContentsMargins(isRightToLeft() ? 4 * kGrid : 0, 0, isRightToLeft() ? 0 : 4 * kGrid, 0);
     addWidget(files);
     addWidget(selection, 1);
     notFollowed->setContentsMargins(0, 0, 4 * kGrid, 0);

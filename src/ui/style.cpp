@@ -19,7 +19,7 @@ namespace
 
 constexpr int kScrollBarWidth = 12;
 constexpr int kShortestSlider = 36;
-constexpr int kLeastMessageWidth = 80 * kGrid;
+constexpr int kLeastMessageWidth = 90 * kGrid;
 
 // Our own drawing in place of one of Qt's.
 const char* DrawingOf(QStyle::StandardPixmap picture)

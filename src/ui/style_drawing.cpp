@@ -4,6 +4,7 @@
 
 #include "ui/style.h"
 #include "ui/theme.h"
+#include "ui/words.h"
 
 #include <QAbstractScrollArea>
 #include <QPainter>
@@ -156,10 +157,8 @@ void DrawMenuSeparator(const QStyleOption& option, QPainter& painter)
 // File names begin with digits often; in a layout from right to left those would go to the other end.
 QStyleOptionViewItem Isolated(const QStyleOptionViewItem& item)
 {
-    constexpr QChar kFirstStrongIsolate(0x2068);
-    constexpr QChar kPopIsolate(0x2069);
     QStyleOptionViewItem isolated = item;
-    isolated.text = kFirstStrongIsolate + item.text + kPopIsolate;
+    isolated.text = Shielded(item.text);
     return isolated;
 }
 

@@ -41,6 +41,13 @@ QString Text(StringId id)
     return translated.isEmpty() ? QString::fromStdString(app::Strings().LoadString(id)) : translated;
 }
 
+QString Shielded(const QString& value)
+{
+    constexpr QChar kFirstStrongIsolate(0x2068);
+    constexpr QChar kPopIsolate(0x2069);
+    return QGuiApplication::isRightToLeft() ? kFirstStrongIsolate + value + kPopIsolate : value;
+}
+
 QString Counted(StringId id, qint64 number)
 {
     // The forms depend on small numbers and on the last digits of large ones.

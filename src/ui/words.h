@@ -16,10 +16,13 @@ using platform::StringId;
 
 QString Text(StringId id);
 
+// A name or value as it stands within a text: it keeps its own direction in a text from right to left.
+QString Shielded(const QString& value);
+
 // The text with "%1", "%2" ... replaced. Arguments are shown as they are, even those that hold a "%1".
 template <typename... Arguments> QString Text(StringId id, const Arguments&... arguments)
 {
-    return Text(id).arg(QString(arguments)...);
+    return Text(id).arg(Shielded(QString(arguments))...);
 }
 
 // The text's form for that many things, "%1" being the number as the user's language writes it.

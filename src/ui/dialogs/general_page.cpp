@@ -67,6 +67,8 @@ QLabel* CGeneralPage::AddLine(platform::StringId name, const QString& value)
     auto* label = new QLabel(value, this);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    // A path stands at the same side as the other values, whatever its letters.
+    label->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setFocusPolicy(Qt::TabFocus);
     label->setAccessibleName(Text(name));
