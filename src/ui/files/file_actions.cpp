@@ -295,8 +295,10 @@ void CFileActions::ShowChanges(const browser::FileJobReport& report, const Asked
 {
     const std::string folder = list.List().Folder();
     std::vector<std::string> names;
+    // A folder that the list leaves out takes no selection away.
+    const bool isShown = report.task != FileTask::makeFolder || list.List().IncludeFolder();
     for (const std::string& path : report.results) {
-        if (FolderPath(path) == folder)
+        if (isShown && FolderPath(path) == folder)
             names.emplace_back(browser::FileName(path));
     }
     if (names.empty() && !about.nameAfter.empty() && about.folderOnShow == folder)
