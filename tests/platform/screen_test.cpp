@@ -74,4 +74,9 @@ TEST_F(Screen, ThePortalsPictureIsTakenAndItsFileRemovedAndARefusalIsNoPicture)
         AnswerWith(response, uri);
         EXPECT_EQ(Take(screen), "none") << uri;
     }
+    const QString dies = QStringLiteral("import os, threading\n"
+                                        "threading.Timer(0.2, lambda: os._exit(0)).start()\n"
+                                        "ret = dbus.ObjectPath('/nobody')");
+    Call(kPortal, kPath, "AddMethod", {kScreenshot, "Screenshot", "sa{sv}", "o", dies});
+    EXPECT_EQ(Take(screen), "none") << "the portal ended without an answer";
 }

@@ -238,6 +238,26 @@ TEST_F(FilesTest, DeletingSelectsTheNextAndUndoBringsBackTheDeleted)
     EXPECT_EQ(UndoText(), QStringLiteral("Undo"));
 }
 
+TEST_F(FilesTest, TheSearchPanelAndTheTabsHaveNothingToWorkOn)
+{
+    Add("1.jpg");
+    Open();
+    Select({"1.jpg"});
+    Run(CommandId::search);
+    for (QWidget* place :
+         {frame->LeftView()->focusProxy(), static_cast<QWidget*>(frame->LeftView()->Tabs())}) {
+        place->setFocus();
+        ASSERT_TRUE(frame->LeftView()->isAncestorOf(frame->focusWidget()));
+        for (const CommandId command :
+             {CommandId::cut, CommandId::rename, CommandId::remove, CommandId::newFolder})
+            Run(command);
+        Settle();
+        EXPECT_TRUE(fs::exists(folder + "/1.jpg"));
+        EXPECT_EQ(frame->findChild<QDialog*>(), nullptr);
+    }
+    EXPECT_EQ(UndoText(), QStringLiteral("Undo"));
+}
+
 TEST_F(FilesTest, ANameIsEditedInPlaceAndOneThatCannotBeIsRefusedThere)
 {
     Add("b\xE9.old.jpg");

@@ -9,6 +9,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QUrl>
 
+#include <chrono>
 #include <utility>
 
 namespace platform_linux
@@ -21,6 +22,9 @@ const QString kPortal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kScreenshot = QStringLiteral("org.freedesktop.portal.Screenshot");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
+
+// How long a portal may take that is still there: the user may be choosing what to take.
+constexpr std::chrono::minutes kPatience{5};
 
 // A display under a Wayland compositor shows its own clients only.
 bool HasPlainDisplay()
@@ -36,7 +40,13 @@ platform::BitmapHandle PictureOf(const std::string& file)
 
 }  // namespace
 
-CLinuxScreen::CLinuxScreen(const QDBusConnection& sessionBus) : bus(sessionBus) {}
+CLinuxScreen::CLinuxScreen(const QDBusConnection& sessionBus) : bus(sessionBus)
+{
+    patience.setSingleShot(true);
+    connect(&patience, &QTimer::timeout, this, [this] { Finish(nullptr); });
+    portalWatcher.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&portalWatcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { Finish(nullptr); });
+}
 
 bool CLinuxScreen::ChooseWindow()
 {
@@ -69,6 +79,9 @@ void CLinuxScreen::AskPortal()
         QDBusMessage::createMethodCall(kPortal, kPortalPath, kScreenshot, QStringLiteral("Screenshot"));
     call << QString()
          << QVariantMap{{QStringLiteral("handle_token"), token}, {QStringLiteral("interactive"), true}};
+    patience.start(kPatience);
+    portalWatcher.setConnection(bus);
+    portalWatcher.setWatchedServices({kPortal});
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         if (answer->isError())
@@ -92,6 +105,7 @@ void CLinuxScreen::OnResponse(uint response, const QVariantMap& results)
 
 void CLinuxScreen::Finish(const platform::BitmapHandle& picture)
 {
+    patience.stop();
     if (!request.isEmpty())
         bus.disconnect(kPortal, std::exchange(request, {}), kRequest, QStringLiteral("Response"), this,
                        SLOT(OnResponse(uint, QVariantMap)));

@@ -10,7 +10,9 @@
 #include "platform/screen.h"
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
+#include <QTimer>
 #include <QVariantMap>
 
 namespace platform_linux
@@ -36,6 +38,8 @@ private:
     QDBusConnection bus;
     std::uint32_t window = 0;  // 0 for the portal's choice
     Taken taken;
+    QDBusServiceWatcher portalWatcher;
+    QTimer patience;  // with a portal that never answers
     QString request;  // the portal's object for the question that is open
     int questions = 0;
 };

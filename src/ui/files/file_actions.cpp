@@ -63,25 +63,38 @@ CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWid
     connect(&left, &CLeftView::TreeMade, this, &CFileActions::WatchTree);
 }
 
-bool CFileActions::IsInTree() const
+CFileActions::Place CFileActions::Focus() const
 {
     const QWidget* focus = window.focusWidget();
-    return left.isAncestorOf(qobject_cast<const QMenuBar*>(focus) ? focusBeforeMenu.data() : focus);
+    if (qobject_cast<const QMenuBar*>(focus))
+        focus = focusBeforeMenu.data();
+    if (!left.isAncestorOf(focus))
+        return Place::list;
+    const CFolderTree* tree = left.Tree();
+    return tree->isVisible() && (tree == focus || tree->isAncestorOf(focus)) ? Place::tree : Place::elsewhere;
 }
 
 std::vector<std::string> CFileActions::Chosen() const
 {
-    if (!IsInTree())
+    const Place focus = Focus();
+    if (focus == Place::list)
         return list.SelectedPaths();
     const CFolderTree& tree = *left.Tree();
-    if (!tree.IsPlainFolder(tree.currentIndex()))
+    if (focus == Place::elsewhere || !tree.IsPlainFolder(tree.currentIndex()))
         return {};
     return {tree.Folder()};
 }
 
 std::string CFileActions::Receiver() const
 {
-    return IsInTree() ? left.Tree()->Folder() : list.List().Folder();
+    switch (Focus()) {
+    case Place::list:
+        return list.List().Folder();
+    case Place::tree:
+        return left.Tree()->Folder();
+    default:
+        return {};
+    }
 }
 
 void CFileActions::Copy()
@@ -191,9 +204,10 @@ void CFileActions::AskToRemove(const std::vector<std::string>& paths, const QStr
 
 void CFileActions::Rename()
 {
-    if (IsInTree())
+    const Place focus = Focus();
+    if (focus == Place::tree)
         RenameInTree(*left.Tree(), left.Tree()->currentIndex());
-    else
+    else if (focus == Place::list)
         RenameInList();
 }
 

@@ -71,7 +71,11 @@ private:
         browser::UndoRecord undoing;  // what is taken back
     };
 
-    bool IsInTree() const;
+    // What of the window has the focus. The tabs and the search panel have nothing that a command could be
+    // about.
+    enum class Place { list, tree, elsewhere };
+    Place Focus() const;
+    bool IsInTree() const { return Focus() == Place::tree; }
     // The paths that a command is about, and the folder that receives what is pasted.
     std::vector<std::string> Chosen() const;
     std::string Receiver() const;

@@ -41,7 +41,7 @@ constexpr Tool kToolBar[] = {
     {CommandId::screenCapture, "capture.png", "capture"},
     {CommandId::selectSource, "acquire.png", "scanner"},
     {kLine},
-    {CommandId::search, "", "search"},
+    {CommandId::search, "search.png", "search"},
     {CommandId::properties, "properties.png", "properties"},
 };
 
