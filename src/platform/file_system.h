@@ -64,6 +64,8 @@ public:
     virtual bool IsStill(const std::string& path) = 0;
     // Tells the system that the given range will be wanted soon.
     virtual void WillNeed(std::uint64_t offset, std::uint64_t length) = 0;
+    // Tells the system to read nothing from the medium beyond what ReadAt and WillNeed ask for.
+    virtual void ReadOnlyWhatIsAsked() {}
     // A short text that goes with the file and is not part of its bytes or stamp; `name` is of letters and
     // dashes. Copies may carry it along and others may change it, so it is a hint. False, or empty, where the
     // file system keeps none.

@@ -11,6 +11,7 @@
 #include "platform/services.h"
 #include "platform/types.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -90,6 +91,12 @@ public:
                               [[maybe_unused]] std::uint32_t flags) const
     {
         return source ? source->Render(width, height) : nullptr;
+    }
+    // The bytes that an item takes, its value with it; 0 when the picture has no such item.
+    std::size_t GetPropertyItemSize(std::uint16_t tag) const
+    {
+        const std::optional<PropertyItem> item = GetPropertyItem(tag);
+        return item ? sizeof *item + item->value.size() : 0;
     }
     std::optional<PropertyItem> GetPropertyItem(std::uint16_t tag) const
     {

@@ -241,6 +241,11 @@ void CLinuxFile::WillNeed(std::uint64_t offset, std::uint64_t length)
                             POSIX_FADV_WILLNEED);
 }
 
+void CLinuxFile::ReadOnlyWhatIsAsked()
+{
+    (void)posix_fadvise(handle.Get(), 0, 0, POSIX_FADV_RANDOM);
+}
+
 bool CLinuxFile::KeepNote(const std::string& name, const std::string& text)
 {
     return fsetxattr(handle.Get(), (kNotePrefix + name).c_str(), text.data(), text.size(), 0) == 0 || Fail();

@@ -50,6 +50,7 @@ public:
     bool Lock(platform::LockKind kind, int patienceMilliseconds) override;
     bool IsStill(const std::string& path) override;
     void WillNeed(std::uint64_t offset, std::uint64_t length) override;
+    void ReadOnlyWhatIsAsked() override;
     bool KeepNote(const std::string& name, const std::string& text) override;
     std::string Note(const std::string& name) override;
 
