@@ -903,6 +903,10 @@
    <source>About</source>
    <translation type="unfinished">حول</translation>
   </message>
+  <message id="framePlugAndPlay">
+   <source>A plug &amp; play device id found!</source>
+   <translation type="unfinished">عُثر على معرّف جهاز للتوصيل والتشغيل!</translation>
+  </message>
   <message id="missingMail">
    <source>Sending mail is not part of this version yet</source>
    <translation type="unfinished">إرسال البريد ليس جزءًا من هذا الإصدار بعد</translation>
@@ -934,10 +938,6 @@
   <message id="aboutTitle">
    <source>About</source>
    <translation type="unfinished">حول</translation>
-  </message>
-  <message id="aboutVersion">
-   <source>%1 %2</source>
-   <translation type="unfinished">%1 %2</translation>
   </message>
   <message id="aboutWhat">
    <source>A manager for photos and other media.</source>
@@ -1064,6 +1064,10 @@ Pictures can be printed with the program that opens them: Open With in the list'
   <message id="listFolderForbidden">
    <source>You may not look into this folder</source>
    <translation type="unfinished">لا يُسمح لك بالاطلاع على هذا المجلد</translation>
+  </message>
+  <message id="listSpecialPlace">
+   <source>This place holds no files</source>
+   <translation type="unfinished">لا يحتوي هذا المكان على ملفات</translation>
   </message>
   <message id="listFolderEmpty">
    <source>This folder is empty</source>

@@ -823,6 +823,10 @@
    <source>About</source>
    <translation type="unfinished">Über</translation>
   </message>
+  <message id="framePlugAndPlay">
+   <source>A plug &amp; play device id found!</source>
+   <translation type="unfinished">Eine Plug-&amp;-Play-Gerätekennung wurde gefunden!</translation>
+  </message>
   <message id="missingMail">
    <source>Sending mail is not part of this version yet</source>
    <translation type="unfinished">E-Mail gehört noch nicht zu dieser Version</translation>
@@ -854,10 +858,6 @@
   <message id="aboutTitle">
    <source>About</source>
    <translation type="unfinished">Über</translation>
-  </message>
-  <message id="aboutVersion">
-   <source>%1 %2</source>
-   <translation type="unfinished">%1 %2</translation>
   </message>
   <message id="aboutWhat">
    <source>A manager for photos and other media.</source>
@@ -984,6 +984,10 @@ Bilder lassen sich mit dem Programm drucken, das sie öffnet: „Öffnen mit“ 
   <message id="listFolderForbidden">
    <source>You may not look into this folder</source>
    <translation type="unfinished">Sie dürfen nicht in diesen Ordner sehen</translation>
+  </message>
+  <message id="listSpecialPlace">
+   <source>This place holds no files</source>
+   <translation type="unfinished">Dieser Ort enthält keine Dateien</translation>
   </message>
   <message id="listFolderEmpty">
    <source>This folder is empty</source>

@@ -57,7 +57,7 @@ int CMainFrameState::OnAppletClose(std::uint32_t program)
 
 int CMainFrameState::OnPnpLaunch()
 {
-    actions.showMessage("A plug & play device id found!");
+    actions.showMessage(platform::StringId::framePlugAndPlay);
     return 1;
 }
 

@@ -4,6 +4,8 @@
 // which they announce themselves do to it.
 #pragma once
 
+#include "platform/string_ids.h"
+
 #include <cstdint>
 #include <functional>
 #include <set>
@@ -16,7 +18,7 @@ namespace app
 struct MainFrameActions {
     std::function<int()> readPrinterDefaults;  // GetPrinterDeviceDefaults
     std::function<void(bool)> enableWindow;
-    std::function<void(const std::string&)> showMessage;
+    std::function<void(platform::StringId)> showMessage;
 };
 
 class CMainFrameState

@@ -38,15 +38,15 @@ std::string Quoted(const std::string& path)
 
 StartedProgram StartPrinting(const std::string& programFolder, const std::vector<std::string>& selected)
 {
-    const bool pictures = std::ranges::any_of(selected, [](const std::string& file) {
-        return (browser::TypeBits(file) & browser::kTypePicture) != 0;
-    });
+    const bool pictures =
+        std::ranges::any_of(selected, [](const std::string& file) { return browser::IsPictureFile(file); });
     if (!pictures)
         return StartedProgram::noPictures;
     const std::string program = browser::JoinPath(programFolder, "Inkwell.EXE");
     if (!IsInstalled(program))
         return StartedProgram::missing;
-    if (browser::WriteFileList(browser::JoinPath(programFolder, "files.lst"), selected) == 0)
+    const std::string list = Os().profiles->WritableFile(browser::JoinPath(programFolder, "files.lst"));
+    if (browser::WriteFileList(list, selected) == 0)
         return StartedProgram::notWritten;
     const bool started = Os().shell->WinExec(fmt::format("{} {}", Quoted(program), "/load:1"));
     return started ? StartedProgram::started : StartedProgram::missing;

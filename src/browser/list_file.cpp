@@ -25,6 +25,11 @@ std::string NumberedLines(const std::vector<std::string>& files)
     return lines;
 }
 
+bool HasLineBreak(const std::string& file)
+{
+    return file.find_first_of("\r\n") != std::string::npos;
+}
+
 int Write(const std::string& path, const std::string& text)
 {
     return platform::Os().files->ReplaceFile(path, std::as_bytes(std::span(text))) ? 1 : 0;
@@ -32,13 +37,23 @@ int Write(const std::string& path, const std::string& text)
 
 }  // namespace
 
+bool IsPictureFile(const std::string& path)
+{
+    if ((TypeBits(path) & kTypePicture) == 0) {
+        return false;
+    }
+    const auto facts = platform::Os().files->FindFirstFile(path);
+    return !facts || !facts->isFolder;
+}
+
 int WriteFileList(const std::string& path, const std::vector<std::string>& selected)
 {
     if (path.empty() || selected.empty()) {
         return 0;
     }
     std::vector<std::string> pictures = selected;
-    std::erase_if(pictures, [](const std::string& file) { return (TypeBits(file) & kTypePicture) == 0; });
+    std::erase_if(pictures,
+                  [](const std::string& file) { return HasLineBreak(file) || !IsPictureFile(file); });
     return Write(path, fmt::format("[Files]\n{}Count={}\n", NumberedLines(pictures), pictures.size()));
 }
 
@@ -47,7 +62,9 @@ int WriteSelectionList(const std::string& path, const std::vector<std::string>& 
     if (path.empty() || selected.empty()) {
         return 0;
     }
-    return Write(path, fmt::format("[Files]\nCount={}\n{}", selected.size(), NumberedLines(selected)));
+    std::vector<std::string> files = selected;
+    std::erase_if(files, HasLineBreak);
+    return Write(path, fmt::format("[Files]\nCount={}\n{}", files.size(), NumberedLines(files)));
 }
 
 }  // namespace browser

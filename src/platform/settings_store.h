@@ -61,6 +61,9 @@ public:
             written = WritePrivateProfileString(section, key, value, file) && written;
         return written;
     }
+    // Where a file of the program folder other than an INI file is to be written: `file` itself, or the
+    // user's copy where the program folder may not be written.
+    virtual std::string WritableFile(const std::string& file) { return file; }
     // Why this thread's latest write failed, in the numbers that the suite knows: 3 no such path, 5 not
     // permitted, 21 the device is not ready, 82 cannot be made; 31 for every other reason.
     virtual int GetLastError() = 0;

@@ -128,6 +128,13 @@ bool CLinuxProfiles::WritePrivateProfileValues(const std::string& section,
     return mayNot && !copy.empty() && WriteUserCopy(copy, file, change);
 }
 
+std::string CLinuxProfiles::WritableFile(const std::string& file)
+{
+    const std::string copy = UserCopyOf(file);
+    const bool mayNot = access(Native(ParentOf(file)), W_OK) != 0 && (errno == EACCES || errno == EROFS);
+    return mayNot && !copy.empty() && MakeFolders(ParentOf(copy)) ? copy : file;
+}
+
 int CLinuxProfiles::GetLastError()
 {
     switch (LastFailure()) {

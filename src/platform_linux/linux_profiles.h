@@ -31,6 +31,8 @@ public:
     // All of them in one replacement of the file, or none.
     bool WritePrivateProfileValues(const std::string& section, const platform::ProfileValues& values,
                                    const std::string& file) override;
+    // Makes the folder that the user's copy lies in.
+    std::string WritableFile(const std::string& file) override;
     int GetLastError() override;
 
 private:

@@ -254,7 +254,9 @@ void CIEShellListCtrl::SetThumbnailSide(int pixels)
 
 void CIEShellListCtrl::SayWhyEmpty()
 {
-    if (list.State() == browser::FillState::failed) {
+    if (browser::IsSpecialPlace(list.Folder())) {
+        emptyState->Show(QStringLiteral("folder"), Text(StringId::listSpecialPlace), {});
+    } else if (list.State() == browser::FillState::failed) {
         const auto facts = platform::Os().files->FindFirstFile(list.Folder());
         // A file may have taken the folder's place.
         const bool missing =

@@ -107,12 +107,15 @@ QWidget* CLeftView::MakeSearchPanel()
 {
     auto* panel = new CEmptyState(this);
     panel->setFocusPolicy(Qt::StrongFocus);
+    panel->setContextMenuPolicy(Qt::PreventContextMenu);  // the pane's menu is about the trees
     panel->Show(QStringLiteral("search"), Text(StringId::searchNoneYet), Text(StringId::searchComesLater));
     return panel;
 }
 
 void CLeftView::SelectFolder(const std::string& path)
 {
+    if (!state.LeaveSearch([this] { return AskToLeaveSearch(); }))
+        return;
     const bool searching = state.Mode() == app::PanelMode::search;
     if (searching || (Tree()->Folder() != path && !Tree()->SelectFolder(path))) {
         if (searching)

@@ -38,7 +38,7 @@ constexpr int kRightWidth = 1020;
 CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dataFolders)
     : owner(application), folders(dataFolders),
       state({ReadPrinterDefaults, [this](bool on) { setEnabled(on); },
-             [this](const std::string& text) { Tell(Shown(text)); }}),
+             [this](StringId text) { Tell(Text(text)); }}),
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
       right(new CIEShellListView(owner.DbFolder(), SettingsFile(), *menu)), pages(new CViewerPages(right)),
       status(new CStatusBar(this)), panes(new QSplitter(this)),

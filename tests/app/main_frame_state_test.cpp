@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_frame_state.h"
+#include "app/string_table.h"
 #include "support/test_services.h"
 
 #include <gtest/gtest.h>
@@ -39,9 +40,9 @@ protected:
     }()};
     int printersRead = 0;
     std::vector<std::string> shown;
-    app::CMainFrameState state{{[this] { return ++printersRead; },
-                                [this](bool on) { shown.push_back(on ? "enabled" : "disabled"); },
-                                [this](const std::string& text) { shown.push_back(text); }}};
+    app::CMainFrameState state{
+        {[this] { return ++printersRead; }, [this](bool on) { shown.push_back(on ? "enabled" : "disabled"); },
+         [this](platform::StringId text) { shown.push_back(app::Strings().LoadString(text)); }}};
 };
 
 }  // namespace

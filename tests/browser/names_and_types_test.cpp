@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 using namespace browser;
 
@@ -110,13 +111,15 @@ TEST(ListFiles, NumberTheirLinesAndCountThem)
 {
     support::TestServices services;
     const std::string out = services.folder.Path("files.lst");
-    const std::vector<std::string> selected{"/p/b.jpg", "/p/c.avi", "/p/a.JPG"};
+    std::filesystem::create_directories(services.folder.Path("folder.jpg"));
+    const std::vector<std::string> selected{"/p/b.jpg", "/p/c.avi", "/p/a.JPG", "/p/d.jpg\nFile9=/etc/x.jpg"};
 
     EXPECT_EQ(WriteFileList(out, selected), 1);
     EXPECT_EQ(support::ReadBytes(out), "[Files]\nFile1=/p/b.jpg\nFile2=/p/a.JPG\nCount=2\n");
     EXPECT_EQ(WriteSelectionList(out, selected), 1);
     EXPECT_EQ(support::ReadBytes(out), "[Files]\nCount=3\nFile1=/p/b.jpg\nFile2=/p/c.avi\nFile3=/p/a.JPG\n");
 
+    EXPECT_FALSE(IsPictureFile(services.folder.Path("folder.jpg")));
     EXPECT_EQ(WriteFileList("", selected), 0);
     EXPECT_EQ(WriteFileList(out, {}), 0);
     EXPECT_EQ(WriteSelectionList(services.folder.Path("none/x"), selected), 0);

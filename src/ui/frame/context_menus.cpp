@@ -60,6 +60,8 @@ bool CContextMenus::eventFilter(QObject* watched, QEvent* event)
 bool CContextMenus::OpenByKey()
 {
     QWidget* const focus = QApplication::focusWidget();
+    if (focus && focus->contextMenuPolicy() == Qt::PreventContextMenu)
+        return false;
     for (QObject* above = focus; above; above = above->parent()) {
         if (const auto pane = panes.find(above); pane != panes.end()) {
             Request(pane->second, PlaceForKey(focus));
