@@ -3,9 +3,9 @@
 #include "app/kelvo_app.h"
 
 #include "app/data_folders.h"
+#include "app/skin_layout.h"
 #include "app/string_table.h"
 #include "browser/file_names.h"
-#include "browser/interface_font.h"
 #include "platform/file_system.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
@@ -112,8 +112,7 @@ std::string CKelvoApp::RecordedFolder(const std::string& key, const std::string&
 
 void CKelvoApp::ReadFonts() const
 {
-    const browser::InterfaceFont font = browser::ReadInterfaceFont(fmt::format("{}font.ini", skinFolder));
-    Os().utility->ql_SetFontInfo(font.faceName, font.size, font.characterSet);
+    ReadSkinFont(skinFolder);
 }
 
 void CKelvoApp::StampRegistry() const

@@ -4,6 +4,7 @@
 
 #include "app/settings.h"
 #include "browser/file_names.h"
+#include "browser/interface_font.h"
 #include "platform/file_system.h"
 #include "platform/services.h"
 #include "platform/skin_hook.h"
@@ -12,6 +13,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace app
 {
@@ -27,6 +29,7 @@ constexpr const char* kPanel = "panel";
 // No window is larger, and no sum of such numbers overflows.
 constexpr int kMostPixels = 8192;
 constexpr std::size_t kLongestFaceName = 260;
+constexpr std::size_t kMostAdded = 32;
 
 // The values of one section of one file.
 class CSection
@@ -109,6 +112,29 @@ void ReadElement(const std::string& path, SkinElement& element)
     section.Read("color", element.color);
 }
 
+// Names divided by commas; one that stands for an element of the window, or has no place, is passed over.
+void ReadAdded(const std::string& path, WindowLayout& layout)
+{
+    std::string names;
+    CSection(path, kPanel).Read("add", names);
+    std::istringstream rest(names);
+    std::string name;
+    for (std::size_t i = 0; i < kMostAdded && std::getline(rest, name, ','); ++i) {
+        name = name.substr(std::min(name.find_first_not_of(' '), name.size()));
+        name.erase(name.find_last_not_of(' ') + 1);
+        SkinElement element{.name = name, .kind = ElementKind::button};
+        if (name.empty() ||
+            std::ranges::find(layout.elements, name, &SkinElement::name) != layout.elements.end()) {
+            continue;
+        }
+        ReadElement(path, element);
+        CSection(path, name).Read("press", element.presses);
+        if (element.rect) {
+            layout.added.push_back(element);
+        }
+    }
+}
+
 }  // namespace
 
 std::string SkinFilePath(const std::string& skinFolder, std::string_view name)
@@ -137,6 +163,7 @@ void ReadLayout(const std::string& skinFolder, std::string_view fileName, Window
     const CSection panel(path, kPanel);
     panel.Read("rect", layout.panelRect);
     panel.Read("color", layout.panelColor);
+    ReadAdded(path, layout);
 }
 
 std::string DarkSkinFolder(const std::string& skinFolder)
@@ -149,6 +176,13 @@ std::string DarkSkinFolder(const std::string& skinFolder)
     const std::string dark = skinFolder.substr(0, slash) + "/dark/";
     const auto facts = Os().files->FindFirstFile(dark);
     return facts && facts->isFolder ? dark : skinFolder;
+}
+
+FontGroup ReadSkinFont(const std::string& skinFolder)
+{
+    const browser::InterfaceFont font = browser::ReadInterfaceFont(fmt::format("{}font.ini", skinFolder));
+    Os().utility->ql_SetFontInfo(font.faceName, font.size, font.characterSet);
+    return {font.namesFace ? font.faceName : std::string{}, font.namesSize ? font.size : 0, 0, {}};
 }
 
 void SetPropertyDialogColours(const std::string& skinFolder)

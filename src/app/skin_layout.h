@@ -45,6 +45,7 @@ struct SkinElement {
     std::string imageRight{};
     int partWidth = 0;  // of the left and the right piece
     std::optional<platform::ColorRef> color{};
+    std::string presses{};  // of a picture that the file adds: the button that it stands for
 };
 
 // A window's look. `elements` is filled by the window with what it has, and with its presets.
@@ -53,10 +54,12 @@ struct WindowLayout {
     std::vector<SkinElement> elements;
     std::optional<platform::Rect> panelRect;
     std::optional<platform::ColorRef> panelColor;
+    // What the file adds to the window: surfaces and pictures, each with a place.
+    std::vector<SkinElement> added;
 };
 
-// Reads the font group, then each element in the order given, then the panel. `fileName` lies in the skin's
-// "Manager" folder, or has a folder of the skin before it ("RollMgr/tab4.ini").
+// Reads the font group, then each element in the order given, then the panel and what it adds. `fileName`
+// lies in the skin's "Manager" folder, or has a folder of the skin before it ("RollMgr/tab4.ini").
 void ReadLayout(const std::string& skinFolder, std::string_view fileName, WindowLayout& layout);
 
 // The path of a file of the skin; "\" counts as a separator. Empty when the name is empty, absolute or leads
@@ -66,6 +69,9 @@ std::string SkinFilePath(const std::string& skinFolder, std::string_view name);
 // The skin for a dark desktop: the folder "dark" beside the skin folder, or that one itself when there is
 // none.
 std::string DarkSkinFolder(const std::string& skinFolder);
+
+// Hands the interface's font of the skin to the utility library; what the skin names of it itself.
+FontGroup ReadSkinFont(const std::string& skinFolder);
 
 // Hands the property dialogs' colours of the skin to the skin hook library; without one, does nothing.
 void SetPropertyDialogColours(const std::string& skinFolder);

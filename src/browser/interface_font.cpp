@@ -14,8 +14,10 @@ InterfaceFont ReadInterfaceFont(const std::string& file)
     platform::CProfiles& profiles = *platform::Os().profiles;
     InterfaceFont font;
     const std::string face = profiles.GetPrivateProfileString("Font", "facename", "", file);
-    if (!face.empty() && face.size() <= kLongestFaceName) {
-        font.faceName = face;
+    font.namesFace = !face.empty();
+    font.namesSize = profiles.HasPrivateProfileKey("Font", "fontsize", file);
+    if (font.namesFace) {
+        font.faceName = face.substr(0, kLongestFaceName);
     }
     font.size = profiles.GetPrivateProfileInt("Font", "fontsize", font.size, file);
     font.characterSet = profiles.GetPrivateProfileInt("Font", "characterSet", font.characterSet, file);

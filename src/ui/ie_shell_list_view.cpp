@@ -3,7 +3,7 @@
 #include "ui/ie_shell_list_view.h"
 
 #include "browser/list_settings.h"
-#include "ui/icons.h"
+#include "ui/controls/skin.h"
 #include "ui/main_menu.h"
 #include "ui/theme.h"
 #include "ui/words.h"
@@ -24,7 +24,7 @@ namespace
 
 QToolButton* MakeButton(QAction* action, const QString& drawing, QWidget* parent)
 {
-    action->setIcon(ThemedIcon(drawing));
+    action->setIcon(SkinIcon(QStringLiteral("Manager/%1.png").arg(drawing), drawing));
     action->setIconVisibleInMenu(false);
     auto* button = new QToolButton(parent);
     button->setDefaultAction(action);

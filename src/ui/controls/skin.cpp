@@ -8,6 +8,8 @@
 #include "ui/icons.h"
 #include "ui/theme.h"
 
+#include <QApplication>
+#include <QFontDatabase>
 #include <QIconEngine>
 #include <QPainter>
 
@@ -29,6 +31,7 @@ struct Skin {
     std::map<std::pair<QString, bool>, StatePixmaps> states;
     std::map<std::pair<QString, bool>, QPixmap> pictures;
     qsizetype bytes = 0;
+    bool setsFont = false;
 };
 
 Skin& Current()
@@ -90,9 +93,13 @@ private:
     QPixmap Draw(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal ratio) const
     {
         const StatePixmaps states = SkinStates(image, ratio);
-        QPixmap picture = states[static_cast<std::size_t>(StateOf(mode, state))];
-        if (picture.isNull())
-            picture = states.front();
+        const auto wanted = static_cast<std::size_t>(StateOf(mode, state));
+        QPixmap picture = states[states[wanted].isNull() ? 0 : wanted];
+        // Made smaller it stays sharp, made larger it does not.
+        if (!picture.isNull() && picture.width() < size.width()) {
+            const StatePixmaps dense = SkinStates(image, 2);
+            picture = dense[dense[wanted].isNull() ? 0 : wanted];
+        }
         if (picture.isNull())
             return drawn.pixmap((QSizeF(size) / ratio).toSize(), ratio, mode, state);
         if (picture.size() != size)
@@ -122,6 +129,15 @@ double Contrast(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+// The skin's font, or the desktop's again where the last skin had one and this one has none.
+void TakeFont(Skin& skin)
+{
+    const app::FontGroup named = app::ReadSkinFont(skin.folder);
+    const bool had = std::exchange(skin.setsFont, !named.faceName.empty() || named.size > 0);
+    if (skin.setsFont || had)
+        QApplication::setFont(SkinFont(named, QFontDatabase::systemFont(QFontDatabase::GeneralFont)));
+}
+
 }  // namespace
 
 void UseSkin(const std::string& folder)
@@ -136,8 +152,10 @@ void RefreshSkin()
     if (skin.lightFolder.empty())
         return;
     const std::string folder = CTheme::IsDark() ? app::DarkSkinFolder(skin.lightFolder) : skin.lightFolder;
-    if (folder != skin.folder)
-        skin = {skin.lightFolder, folder, {}, {}, 0};
+    if (folder != skin.folder) {
+        skin = {skin.lightFolder, folder, {}, {}, 0, skin.setsFont};
+        TakeFont(skin);
+    }
     app::SetPropertyDialogColours(skin.folder);
 }
 
@@ -179,10 +197,11 @@ QFont SkinFont(const app::FontGroup& group, const QFont& base)
         return base;
     const platform::LogFont read = platform::Os().utility->ql_GetLogfont(group.faceName, group.size);
     QFont font = base;
-    font.setFamily(Shown(read.faceName));
+    if (!group.faceName.empty())
+        font.setFamily(Shown(read.faceName));
     // Through points, so that the desktop's text scale holds for it.
     constexpr double kPointsPerPixel = 72.0 / 96.0;
-    if (read.height > 0)
+    if (group.size > 0 && read.height == group.size)
         font.setPointSizeF(read.height * kPointsPerPixel);
     return font;
 }

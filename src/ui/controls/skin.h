@@ -17,7 +17,7 @@
 namespace ui
 {
 
-// Names the skin folder for a light desktop and takes up the skin. Controls may be made before.
+// Names the skin folder for a light desktop and takes up the skin and its font. Controls may be made before.
 void UseSkin(const std::string& folder);
 // Takes up the skin anew, after the theme has changed.
 void RefreshSkin();
@@ -33,7 +33,8 @@ QPixmap SkinPicture(const QString& image, qreal pixelRatio);
 // or QIcon::On. Without them, the theme's drawing of the name `drawing`.
 QIcon SkinIcon(const QString& image, const QString& drawing);
 
-// The font of a font group; `base` where the group names neither face nor size.
+// The font of a font group; what the group does not name, or names in a size that nobody could read, is that
+// of `base`.
 QFont SkinFont(const app::FontGroup& group, const QFont& base);
 QColor SkinColour(platform::ColorRef colour);
 // `text`, or black or white where that could not be read on `ground`.

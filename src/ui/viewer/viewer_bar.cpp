@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/viewer/viewer_bar.h"
 
-#include "ui/icons.h"
+#include "ui/controls/skin.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
@@ -119,7 +119,7 @@ QToolButton* CViewerBar::AddButton(ViewerAction action, const QString& drawing, 
                                    Qt::Key key)
 {
     auto* button = new QToolButton(this);
-    button->setIcon(ThemedIcon(drawing));
+    button->setIcon(SkinIcon(QStringLiteral("Manager/%1.png").arg(drawing), drawing));
     button->setIconSize({16, 16});
     button->setFixedSize(8 * kGrid, 8 * kGrid);
     button->setAutoRaise(true);
