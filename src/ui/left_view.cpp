@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/left_view.h"
 
+#include "ui/controls/message_box.h"
 #include "ui/empty_state.h"
 #include "ui/watch/ie_shell_tree_ctrl.h"
 #include "ui/words.h"
 
-#include <QMessageBox>
 #include <QVBoxLayout>
 
 namespace ui
@@ -77,8 +77,11 @@ void CLeftView::ShowTab(int id)
 
 bool CLeftView::AskToLeaveSearch()
 {
-    return QMessageBox::question(this, window()->windowTitle(), Text(StringId::skinLeaveSearch),
-                                 QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+    CMessageBox box(CMessageBox::Question, window()->windowTitle(), Text(StringId::skinLeaveSearch), this);
+    const CButtonEx* leave = box.Add(CMessageBox::Ok);
+    box.Add(CMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == leave;
 }
 
 void CLeftView::ShowTree(app::PanelMode mode)

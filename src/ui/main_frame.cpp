@@ -6,6 +6,7 @@
 #include "platform/services.h"
 #include "platform/shell.h"
 #include "ui/background.h"
+#include "ui/controls/message_box.h"
 #include "ui/controls/skin.h"
 #include "ui/display_text.h"
 #include "ui/files/report_box.h"
@@ -18,7 +19,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QSplitter>
 
 #include <utility>
@@ -32,6 +32,15 @@ namespace
 constexpr int kThumbnailPeriod = 10;  // milliseconds
 constexpr int kLeftWidth = 260;
 constexpr int kRightWidth = 1020;
+
+void OpenBox(CMainFrame& frame, CMessageBox::Icon sign, const QString& title, const QString& text,
+             const QString& more)
+{
+    auto* box = new CMessageBox(sign, title, text, &frame);
+    box->setInformativeText(more);
+    box->Add(CMessageBox::Ok);
+    box->Open();
+}
 
 }  // namespace
 
@@ -227,13 +236,14 @@ void CMainFrame::SendMessage(app::FrameMessage message, std::int64_t lParam)
     }
 }
 
-void CMainFrame::Tell(const QString& text, const QString& title)
+void CMainFrame::Tell(const QString& text, const QString& more)
 {
-    auto* box = new QMessageBox(QMessageBox::Information, title.isEmpty() ? windowTitle() : title, text,
-                                QMessageBox::Ok, this);
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    OpenBox(*this, CMessageBox::Information, windowTitle(), text, more);
+}
+
+void CMainFrame::Warn(const QString& title, const QString& text)
+{
+    OpenBox(*this, CMessageBox::Warning, title, text, {});
 }
 
 }  // namespace ui

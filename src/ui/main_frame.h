@@ -45,9 +45,9 @@ public:
     void GoTo(const std::string& folder, const std::string& selectName = {});
     // The folder that the window starts with when none is asked for.
     void GoToStart();
-    // Tells the user of things that went wrong, without waiting for an answer; the window's own title stands
-    // above it where none is given.
-    void Tell(const QString& text, const QString& title = {});
+    // Tells the user something, without waiting for an answer; `more` explains it in smaller letters.
+    void Tell(const QString& text, const QString& more = {});
+    void Warn(const QString& title, const QString& text);
     // The panes' private messages.
     void SendMessage(app::FrameMessage message, std::int64_t lParam = 0);
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/style.h"
 
+#include "ui/controls/dialog_skin.h"
+#include "ui/controls/skin_look.h"
 #include "ui/icons.h"
 #include "ui/style_drawing.h"
 #include "ui/theme.h"
@@ -49,6 +51,13 @@ void CStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
         return DrawRow(*item, *painter);
     if (element == PE_PanelButtonTool)
         return DrawToolButton(*option, *painter);
+    if (element == PE_IndicatorRadioButton && DrawSkinMark(*option, *painter, widget))
+        return;
+    if (element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox)
+        return DrawMark(*option, *painter,
+                        element == PE_IndicatorRadioButton ? MarkShape::round : MarkShape::box);
+    if (element == PE_FrameLineEdit || element == PE_Frame)
+        return DrawFrame(*option, *painter);
     if (element == PE_PanelMenu)
         return DrawMenuGround(*option, *painter);
     if (element == PE_IndicatorToolBarSeparator)
@@ -93,9 +102,15 @@ void CStyle::drawControl(ControlElement element, const QStyleOption* option, QPa
     if (element == CE_ProgressBarContents && progress && progress->maximum > progress->minimum)
         return DrawProgress(*progress, *painter);
     const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option);
-    if (element == CE_ToolButtonLabel && tool && tool->toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
-        const QStyleOptionToolButton centred = Centred(*tool);
-        return QProxyStyle::drawControl(element, &centred, painter, widget);
+    if (element == CE_ToolButtonLabel && tool) {
+        const QStyleOptionToolButton label = ToolLabel(*tool);
+        return QProxyStyle::drawControl(element, &label, painter, widget);
+    }
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (button && (element == CE_RadioButtonLabel || element == CE_CheckBoxLabel)) {
+        QStyleOptionButton label = *button;
+        label.palette = SkinnedText(*option, widget);
+        return QProxyStyle::drawControl(element, &label, painter, widget);
     }
     const auto* row = qstyleoption_cast<const QStyleOptionViewItem*>(option);
     if (element == CE_ItemViewItem && row && row->direction == Qt::RightToLeft && !row->text.isEmpty()) {
@@ -212,6 +227,8 @@ QIcon CStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, c
 void CStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    if (auto* dialog = qobject_cast<QDialog*>(widget))
+        DressDialog(*dialog);
     // Qt makes message boxes as narrow as their first line.
     auto* grid = qobject_cast<QMessageBox*>(widget) ? qobject_cast<QGridLayout*>(widget->layout()) : nullptr;
     if (grid)

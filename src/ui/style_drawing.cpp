@@ -29,6 +29,55 @@ QColor GroundOf(const QWidget* scrollBar)
 
 }  // namespace
 
+void DrawMark(const QStyleOption& option, QPainter& painter, MarkShape shape)
+{
+    const ThemeColours& colours = CTheme::Colours();
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool set = option.state & (QStyle::State_On | QStyle::State_NoChange);
+    const bool hovered = enabled && option.state.testFlag(QStyle::State_MouseOver);
+    const QColor edge = !enabled ? colours.line : set || hovered ? colours.accent : colours.dimText;
+    const double side = std::min(option.rect.width(), option.rect.height()) - 1;
+    QRectF box(0, 0, side, side);
+    box.moveCenter(QRectF(option.rect).center());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(edge);
+    const bool filled = set && shape == MarkShape::box;
+    painter.setBrush(filled                                        ? edge
+                     : option.state.testFlag(QStyle::State_Sunken) ? colours.selection
+                                                                   : colours.view);
+    const double radius = shape == MarkShape::round ? side / 2 : kGrid / 2.0;
+    painter.drawRoundedRect(box, radius, radius);
+    const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x, y) * side; };
+    if (filled) {
+        painter.setPen(QPen(colours.view, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(Qt::NoBrush);
+        if (option.state.testFlag(QStyle::State_NoChange))
+            painter.drawLine(at(0.25, 0.5), at(0.75, 0.5));
+        else
+            painter.drawPolyline(QPolygonF({at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.3)}));
+    } else if (set) {
+        painter.setBrush(edge);
+        painter.drawEllipse(box.center(), side / 4, side / 4);
+    }
+    painter.restore();
+}
+
+void DrawFrame(const QStyleOption& option, QPainter& painter)
+{
+    const ThemeColours& colours = CTheme::Colours();
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    QColor edge = focused ? colours.accent : colours.dimText;
+    if (!focused)
+        edge.setAlphaF(option.state.testFlag(QStyle::State_Enabled) ? 0.55F : 0.3F);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(edge);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.restore();
+}
+
 void DrawScrollBarGround(const QStyleOption& option, QPainter& painter, const QWidget* scrollBar)
 {
     painter.fillRect(option.rect, GroundOf(scrollBar));
@@ -109,15 +158,20 @@ void DrawToolButton(const QStyleOption& option, QPainter& painter)
         FillRounded(painter, option.rect, down ? colours.selection : colours.hover, kCornerRadius);
 }
 
-// The room beside picture and text, which Qt leaves behind the text alone, stands half on either side.
-QStyleOptionToolButton Centred(const QStyleOptionToolButton& button)
+QStyleOptionToolButton ToolLabel(const QStyleOptionToolButton& button)
 {
+    QStyleOptionToolButton label = button;
+    // Qt asks an icon for what it looks like when down only where a button stays down.
+    if (button.state.testFlag(QStyle::State_Sunken))
+        label.state |= QStyle::State_On;
+    if (button.toolButtonStyle != Qt::ToolButtonTextBesideIcon)
+        return label;
+    // The room beside picture and text, which Qt leaves behind the text alone, stands half on either side.
     constexpr int kBetween = 4;  // what Qt leaves beside the picture
     const int used = button.iconSize.width() + kBetween + button.fontMetrics.horizontalAdvance(button.text);
     const int spare = std::max(0, button.rect.width() - used) / 2;
-    QStyleOptionToolButton centred = button;
-    centred.rect.adjust(spare, 0, -spare, 0);
-    return centred;
+    label.rect.adjust(spare, 0, -spare, 0);
+    return label;
 }
 
 void DrawToolBar(const QStyleOption& option, QPainter& painter)

@@ -14,9 +14,14 @@ void DrawRow(const QStyleOptionViewItem& option, QPainter& painter);
 void DrawFocus(const QStyleOption& option, QPainter& painter);
 void DrawScrollBar(const QStyleOptionSlider& option, const QRect& slider, QPainter& painter);
 void DrawSlider(const QStyleOptionSlider& option, const QRect& handle, QPainter& painter);
+enum class MarkShape { box, round };
+// The mark of a check box or of a radio button.
+void DrawMark(const QStyleOption& option, QPainter& painter, MarkShape shape);
+// Around what is typed into or chosen from.
+void DrawFrame(const QStyleOption& option, QPainter& painter);
 void DrawToolButton(const QStyleOption& option, QPainter& painter);
-// The button with its picture and text in its middle.
-QStyleOptionToolButton Centred(const QStyleOptionToolButton& button);
+// What is drawn of a tool button above its ground: down while it is pressed, picture and text in its middle.
+QStyleOptionToolButton ToolLabel(const QStyleOptionToolButton& button);
 void DrawToolBar(const QStyleOption& option, QPainter& painter);
 void DrawToolBarSeparator(const QStyleOption& option, QPainter& painter);
 void DrawMenuGround(const QStyleOption& option, QPainter& painter);

@@ -106,7 +106,9 @@ protected:
         auto* box = frame->findChild<QMessageBox*>();
         if (!box)
             return {};
-        const std::string text = (box->windowTitle() + "|" + box->text()).toStdString();
+        const std::string text = (box->windowTitle() + "|" + box->text() +
+                                  (box->informativeText().isEmpty() ? "" : "|" + box->informativeText()))
+                                     .toStdString();
         box->accept();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return text;
@@ -195,7 +197,7 @@ TEST_F(CommandsTest, TheSuitesButtonsSayWhatTheyLaunch)
         const char* text;
     } rows[] = {{CommandId::mms, "Vellum|Launch MMS"},
                 {CommandId::sms, "Vellum|Launch SMS"},
-                {CommandId::pim, "Vellum|Launch PIM Error\n"},
+                {CommandId::pim, "Vellum|Launch PIM Error|"},
                 {CommandId::about, "About|Vellum 1.00"},
                 {CommandId::videoTrim, "Vellum|Trimming videos needs"}};
     for (const auto& row : rows) {

@@ -317,8 +317,8 @@ TEST_F(FilesTest, ATakenNameIsAskedAboutAndWhatFailsIsToldOnce)
 
     auto* dialog = Wait<ui::CClashDialog>();
     EXPECT_TRUE(dialog->accessibleDescription().contains(QStringLiteral("“1.jpg” is already in “other”.")));
-    EXPECT_FALSE(dialog->findChild<QPushButton*>(QStringLiteral("answer4")));  // merging is for folders
-    dialog->findChild<QPushButton*>(QStringLiteral("answer2"))->click();
+    EXPECT_FALSE(dialog->findChild<QPushButton*>(QStringLiteral("merge")));  // merging is for folders
+    dialog->findChild<QPushButton*>(QStringLiteral("replace"))->click();
     ASSERT_TRUE(QTest::qWaitFor([&] { return Wait<ui::CClashDialog>() != dialog; }));
     QTest::keyClick(Wait<ui::CClashDialog>()->focusWidget(), Qt::Key_Return);
     Finish();

@@ -6,13 +6,12 @@
 #include "platform/file_system.h"
 #include "platform/services.h"
 #include "platform/shell.h"
+#include "ui/controls/message_box.h"
 #include "ui/display_text.h"
 #include "ui/icons.h"
 #include "ui/main_frame.h"
 #include "ui/theme.h"
 #include "ui/words.h"
-
-#include <QMessageBox>
 
 namespace ui
 {
@@ -30,15 +29,15 @@ void ShowHelp(const app::CKelvoApp& application)
 void ShowAbout(CMainFrame& frame)
 {
     const app::CKelvoApp& application = frame.Application();
-    auto* box = new QMessageBox(
-        QMessageBox::NoIcon, Text(StringId::aboutTitle),
+    auto* box = new CMessageBox(
+        CMessageBox::NoIcon, Text(StringId::aboutTitle),
         QStringLiteral("%1 %2").arg(frame.windowTitle(), Shown(application.VersionText().substr(0, 4))),
-        QMessageBox::Ok, &frame);
+        &frame);
     box->setInformativeText(Text(StringId::aboutWhat));
     box->setIconPixmap(
         IconPixmap(QStringLiteral("kelvo"), 64, CTheme::Colours().text, frame.devicePixelRatioF()));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    box->Add(CMessageBox::Ok);
+    box->Open();
 }
 
 }  // namespace

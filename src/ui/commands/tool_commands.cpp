@@ -42,9 +42,7 @@ void CToolCommands::RegisterSuite(CCommandRouter& router)
     router.On(mms, [this] { frame.Tell(Text(StringId::suiteLaunchMms)); });
     router.On(sms, [this] { frame.Tell(Text(StringId::suiteLaunchSms)); });
     // The library that keeps contacts and calendar is no part of this program, so it never starts.
-    router.On(pim, [this] {
-        frame.Tell(Text(StringId::suitePimError) + QLatin1Char('\n') + Text(StringId::suitePimWhy));
-    });
+    router.On(pim, [this] { frame.Tell(Text(StringId::suitePimError), Text(StringId::suitePimWhy)); });
 }
 
 void CToolCommands::TrimVideo()
@@ -64,7 +62,7 @@ void CToolCommands::TrimVideo()
 void CToolCommands::ShowSlides()
 {
     if (app::HasClips(frame.List()->SelectedPaths()))
-        frame.Tell(Text(StringId::suiteNoClips), Text(StringId::suiteWarning));
+        frame.Warn(Text(StringId::suiteWarning), Text(StringId::suiteNoClips));
     else if (!frame.Pages()->ShowSlides())
         frame.Tell(Text(StringId::suiteNoShow));
 }
@@ -83,8 +81,7 @@ void CToolCommands::SelectSource()
     auto* dialog = new CSelectSourceDialog(&frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &CSelectSourceDialog::Failed, &frame, [this] {
-        frame.Tell(Text(StringId::sourceCannotOpen) + QLatin1Char('\n') +
-                   Text(StringId::sourceCannotOpenWhy));
+        frame.Tell(Text(StringId::sourceCannotOpen), Text(StringId::sourceCannotOpenWhy));
     });
     dialog->open();
 }

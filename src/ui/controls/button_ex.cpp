@@ -112,7 +112,7 @@ QSize CButtonEx::sizeHint() const
         return content + QSize(4 * kGrid, 3 * kGrid);
     QStyleOptionButton option;
     initStyleOption(&option);
-    return style()->sizeFromContents(QStyle::CT_PushButton, &option, content, this);
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, content + QSize(3 * kGrid, 0), this);
 }
 
 void CButtonEx::paintEvent(QPaintEvent*)
@@ -122,6 +122,8 @@ void CButtonEx::paintEvent(QPaintEvent*)
     DrawContent(painter);
     if (hasFocus())
         DrawFocus(painter);
+    else if (isDefault() && isEnabled() && !pieces[1].isEmpty())
+        DrawRing(painter, 1, 0.5F);
 }
 
 bool CButtonEx::DrawPieces(QPainter& painter) const
@@ -184,10 +186,19 @@ void CButtonEx::DrawContent(QPainter& painter) const
 
 void CButtonEx::DrawFocus(QPainter& painter)
 {
+    DrawRing(painter, 1.5, 1);
+}
+
+void CButtonEx::DrawRing(QPainter& painter, qreal width, float strength) const
+{
+    QColor colour = CTheme::Colours().accent;
+    colour.setAlphaF(strength);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(CTheme::Colours().accent, 1.5));
+    painter.setPen(QPen(colour, width));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCornerRadius - 1, kCornerRadius - 1);
+    const qreal inset = width > 1 ? 1 : 0.5;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), kCornerRadius - inset,
+                            kCornerRadius - inset);
 }
 
 void CRescaleButton::DrawGround(QPainter& painter)

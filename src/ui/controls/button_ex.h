@@ -52,6 +52,8 @@ private:
     QPixmap Face() const;
     bool DrawPieces(QPainter& painter) const;
     void DrawContent(QPainter& painter) const;
+    // Around the button: the focus, or fainter, the default.
+    void DrawRing(QPainter& painter, qreal width, float strength) const;
 
     QString imageName;
     std::array<QString, 3> pieces;

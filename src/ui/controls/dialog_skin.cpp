@@ -3,12 +3,15 @@
 #include "ui/controls/dialog_skin.h"
 
 #include "ui/controls/button_ex.h"
+#include "ui/controls/element_look.h"
 #include "ui/controls/panel.h"
 #include "ui/controls/skin.h"
+#include "ui/display_text.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLayout>
-#include <QRadioButton>
+#include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QStyle>
 
@@ -19,15 +22,6 @@ namespace ui
 
 namespace
 {
-
-app::ElementKind KindOf(const QWidget& widget)
-{
-    if (qobject_cast<const QRadioButton*>(&widget))
-        return app::ElementKind::radioButton;
-    const bool hasPicture =
-        qobject_cast<const CButtonEx*>(&widget) || qobject_cast<const CStaticEx*>(&widget);
-    return hasPicture ? app::ElementKind::button : app::ElementKind::plain;
-}
 
 QRect Box(const platform::Rect& rect)
 {
@@ -82,41 +76,65 @@ void CDialogSkin::Dress()
     const QScopedValueRollback guard(working, true);
     dressedFrom = SkinFolder();
     app::WindowLayout layout = read;
-    app::ReadLayout(dressedFrom, fileName, layout);
-    for (std::size_t i = 0; i < elements.size(); ++i) {
-        if (elements[i].widget)
-            DressElement(elements[i], layout.elements[i], layout);
-    }
+    if (!dressedFrom.empty())
+        app::ReadLayout(dressedFrom, fileName, layout);
     panelRect = layout.panelRect;
-    std::optional<QColor> ground;
-    if (layout.panelColor)
-        ground = SkinColour(*layout.panelColor);
-    SetGround(window, ground);
+    // The texts' colours are made readable on it.
+    SetGround(window, layout.panelColor ? std::optional(SkinColour(*layout.panelColor)) : std::nullopt);
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        elements[i].rect = layout.elements[i].rect;
+        if (elements[i].widget)
+            DressElement(*elements[i].widget, layout.elements[i], layout.font);
+    }
+    Add(layout.added);
     Place();
 }
 
-void CDialogSkin::DressElement(Element& element, const app::SkinElement& look,
-                               const app::WindowLayout& layout)
+void CDialogSkin::Add(const std::vector<app::SkinElement>& looks)
 {
-    element.rect = look.rect;
-    const auto name = [](const std::string& text) { return QString::fromStdString(text); };
-    const std::optional<QColor> colour = look.color ? std::optional(SkinColour(*look.color)) : std::nullopt;
-    if (qobject_cast<QRadioButton*>(element.widget))
-        element.widget->setFont(SkinFont({layout.font.faceName, layout.font.radioSize, 0, {}}, QFont()));
-    if (auto* button = qobject_cast<CButtonEx*>(element.widget)) {
-        button->SetFontGroup(layout.font);
-        if (!look.image.empty())
-            button->SetImage(name(look.image));
-        if (!look.imageCenter.empty())
-            button->SetPieces(name(look.imageLeft), name(look.imageCenter), name(look.imageRight),
-                              look.partWidth);
-    } else if (auto* text = qobject_cast<CStaticEx*>(element.widget)) {
-        text->SetColour(colour);
-        if (!look.image.empty())
-            text->SetImage(name(look.image));
-    } else if (auto* panel = qobject_cast<CPanel*>(element.widget)) {
-        panel->SetColour(colour);
+    for (const Addition& old : additions)
+        delete old.widget;
+    additions.clear();
+    for (const app::SkinElement& look : looks) {
+        auto* pressed = look.presses.empty()
+                            ? nullptr
+                            : window.findChild<QAbstractButton*>(QString::fromStdString(look.presses));
+        if (QWidget* made = MakeAddition(look, pressed))
+            additions.push_back({made, *look.rect, pressed});
     }
+    // The first of them lies lowest.
+    for (auto at = additions.rbegin(); at != additions.rend(); ++at)
+        at->widget->lower();
+}
+
+QWidget* CDialogSkin::MakeAddition(const app::SkinElement& look, QAbstractButton* pressed)
+{
+    const QString image = Shown(look.image);
+    if (image.isEmpty()) {
+        auto* panel = new CPanel(&window);
+        DressElement(*panel, look, {});
+        return panel;
+    }
+    if (look.presses.empty()) {
+        auto* picture = new CStaticEx(&window);
+        picture->SetImage(image);
+        picture->setAlignment(Qt::AlignCenter);
+        return picture;
+    }
+    if (!pressed || SkinStates(image, window.devicePixelRatioF()).front().isNull())
+        return nullptr;
+    // Another face of a button that the keyboard and screen readers reach.
+    auto* button = new CRescaleButton(&window);
+    button->SetImage(image);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoDefault(false);
+    button->setFlat(true);
+    button->setEnabled(pressed->isEnabled());
+    button->setAccessibleName(pressed->text().remove(QLatin1Char('&')));
+    button->setToolTip(button->accessibleName());
+    connect(button, &QAbstractButton::clicked, pressed, &QAbstractButton::click);
+    pressed->installEventFilter(this);
+    return button;
 }
 
 QSize CDialogSkin::DesignSize() const
@@ -132,19 +150,44 @@ QSize CDialogSkin::DesignSize() const
     return {all.right() + 1 + all.left(), all.bottom() + 1 + all.top()};
 }
 
+const CDialogSkin::Element* CDialogSkin::ElementOf(const QWidget& widget) const
+{
+    const auto at = std::ranges::find_if(
+        elements, [&widget](const Element& element) { return element.widget == &widget; });
+    return at == elements.end() ? nullptr : &*at;
+}
+
+QList<QWidget*> CDialogSkin::Parts() const
+{
+    QList<QWidget*> parts;
+    for (QWidget* widget : window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool isAdded = std::ranges::any_of(
+            additions, [widget](const Addition& added) { return added.widget == widget; });
+        if (isAdded || widget->isWindow() || widget->isHidden())
+            continue;
+        if (!qobject_cast<QDialogButtonBox*>(widget)) {
+            parts.append(widget);
+            continue;
+        }
+        for (QAbstractButton* button : widget->findChildren<QAbstractButton*>()) {
+            if (!button->isHidden())
+                parts.append(button);
+        }
+    }
+    return parts;
+}
+
 bool CDialogSkin::CanPlace() const
 {
+    if (!window.layout() || qobject_cast<QMessageBox*>(&window))
+        return false;
     const QRect whole({0, 0}, DesignSize());
     QList<QRect> taken;
-    for (const QObject* child : window.children()) {
-        const auto* widget = qobject_cast<const QWidget*>(child);
-        if (!widget || widget->isWindow() || widget->isHidden())
-            continue;
-        const auto at = std::find_if(elements.begin(), elements.end(),
-                                     [widget](const Element& element) { return element.widget == widget; });
-        if (at == elements.end() || !at->rect)
+    for (const QWidget* widget : Parts()) {
+        const Element* element = ElementOf(*widget);
+        if (!element || !element->rect)
             return false;
-        const QRect box = Box(*at->rect);
+        const QRect box = Box(*element->rect);
         const bool overlaps = std::any_of(taken.begin(), taken.end(),
                                           [&](const QRect& other) { return other.intersects(box); });
         if (overlaps || !whole.contains(box) || !Fits(*widget, box.size()))
@@ -163,31 +206,65 @@ void CDialogSkin::Place()
             element.widget->setMinimumSize(element.ownLeast.expandedTo(Box(*element.rect).size())
                                                .expandedTo(element.widget->minimumSizeHint()));
     }
-    const bool wasPlaced = std::exchange(placed, window.layout() && CanPlace());
-    if (!placed) {
-        if (wasPlaced) {
-            window.setMinimumSize(0, 0);
-            window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-            window.layout()->setEnabled(true);
-            window.layout()->invalidate();
-            window.layout()->activate();
-        }
-        return;
-    }
-    window.layout()->setEnabled(false);
-    window.setFixedSize(DesignSize());
-    const QRect whole({0, 0}, DesignSize());
-    for (const Element& element : elements) {
-        if (element.widget && element.rect && element.widget->parentWidget() == &window)
-            element.widget->setGeometry(
-                QStyle::visualRect(window.layoutDirection(), whole, Box(*element.rect)));
-    }
+    const bool wasPlaced = std::exchange(placed, CanPlace());
+    for (const Addition& added : additions)
+        added.widget->setVisible(placed);
+    if (placed)
+        PlaceAll();
+    else if (wasPlaced)
+        LeaveToLayout();
 }
 
-bool CDialogSkin::eventFilter(QObject*, QEvent* event)
+void CDialogSkin::LeaveToLayout()
+{
+    window.setMinimumSize(0, 0);
+    window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    for (QDialogButtonBox* box : window.findChildren<QDialogButtonBox*>()) {
+        box->layout()->setEnabled(true);
+        box->layout()->invalidate();
+        box->updateGeometry();
+    }
+    window.layout()->setEnabled(true);
+    window.layout()->invalidate();
+    window.layout()->activate();
+}
+
+void CDialogSkin::PlaceAll()
+{
+    const QRect whole({0, 0}, DesignSize());
+    const auto placeOf = [&](const platform::Rect& rect) {
+        return QStyle::visualRect(window.layoutDirection(), whole, Box(rect));
+    };
+    window.layout()->setEnabled(false);
+    window.setFixedSize(whole.size());
+    for (QWidget* part : Parts()) {
+        if (auto* box = qobject_cast<QDialogButtonBox*>(part->parentWidget())) {
+            box->layout()->setEnabled(false);
+            // The window does not hear of changes below a layout at rest.
+            box->installEventFilter(this);
+            box->setGeometry(whole);
+            // So that what lies between its buttons can be clicked.
+            box->lower();
+        }
+        part->setGeometry(placeOf(*ElementOf(*part)->rect));
+    }
+    for (const Addition& added : additions)
+        added.widget->setGeometry(placeOf(added.rect));
+}
+
+bool CDialogSkin::eventFilter(QObject* watched, QEvent* event)
 {
     if (working)
         return false;
+    if (watched != &window) {
+        if (event->type() == QEvent::LayoutRequest)
+            Place();
+        for (const Addition& added : additions) {
+            if (event->type() == QEvent::EnabledChange && added.pressed == watched)
+                added.widget->setEnabled(added.pressed->isEnabled());
+        }
+        return false;
+    }
     switch (event->type()) {
     case QEvent::ApplicationPaletteChange:
     case QEvent::PaletteChange:
@@ -205,6 +282,14 @@ bool CDialogSkin::eventFilter(QObject*, QEvent* event)
         break;
     }
     return false;
+}
+
+void DressDialog(QDialog& dialog)
+{
+    if (dialog.findChild<CDialogSkin*>(QString(), Qt::FindDirectChildrenOnly))
+        return;
+    const QString name = dialog.objectName();
+    new CDialogSkin(dialog, (name.isEmpty() ? QStringLiteral("dialog") : name).toStdString() + ".ini");
 }
 
 }  // namespace ui

@@ -7,13 +7,16 @@
 // rectangle is the element's least size. Where the file places every direct child of the window, no two of
 // them overlap and every text fits its place in the present language and font, the window takes exactly those
 // places (from the right in a right-to-left language) and a fixed size; in any other case the Qt layout
-// stands. docs/formats/skin.md has the keys, docs/decisions/0012-skin.md the reasons.
+// stands. The buttons of a QDialogButtonBox count as children of the window. What the file adds to the window
+// is shown only while the window is placed; a message box of Qt, which minds its own size, never is.
+// docs/formats/skin.md has the keys, docs/decisions/0012-skin.md the reasons.
 #pragma once
 
 #include "app/skin_layout.h"
 
+#include <QAbstractButton>
+#include <QDialog>
 #include <QPointer>
-#include <QWidget>
 
 #include <vector>
 
@@ -26,7 +29,7 @@ class CDialogSkin : public QObject
 
 public:
     // Call when all elements are there. The object belongs to the window.
-    CDialogSkin(QWidget& window, std::string file);
+    CDialogSkin(QWidget& dressed, std::string file);
     // Whether the elements stand where the file has them.
     bool IsPlaced() const { return placed; }
 
@@ -39,22 +42,38 @@ private:
         std::optional<platform::Rect> rect;
         QSize ownLeast;
     };
+    struct Addition {
+        QPointer<QWidget> widget;
+        platform::Rect rect;
+        QPointer<QAbstractButton> pressed;
+    };
 
     void CollectElements();
     void Dress();
-    void DressElement(Element& element, const app::SkinElement& look, const app::WindowLayout& layout);
+    void Add(const std::vector<app::SkinElement>& looks);
+    QWidget* MakeAddition(const app::SkinElement& look, QAbstractButton* pressed);
     void Place();
+    void PlaceAll();
+    void LeaveToLayout();
     bool CanPlace() const;
     QSize DesignSize() const;
+    // The visible children to be placed; in place of a box of buttons, its buttons.
+    QList<QWidget*> Parts() const;
+    const Element* ElementOf(const QWidget& widget) const;
 
     QWidget& window;
     std::string fileName;
     std::string dressedFrom;  // the skin folder
     app::WindowLayout read;
     std::vector<Element> elements;
+    std::vector<Addition> additions;
     std::optional<platform::Rect> panelRect;
     bool placed = false;
     bool working = false;
 };
+
+// Dresses a dialog after the file of its object name ("NewFolderDlg.ini"), else after "dialog.ini". The style
+// does so before a dialog is first shown, so that none is forgotten; a second call does nothing.
+void DressDialog(QDialog& dialog);
 
 }  // namespace ui

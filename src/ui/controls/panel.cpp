@@ -23,25 +23,21 @@ void SetGround(QWidget& widget, const std::optional<QColor>& colour)
             own.setColor(QPalette::WindowText, readable);
     }
     widget.setPalette(own);
+    // A window is filled in any case.
+    if (!widget.isWindow())
+        widget.setAutoFillBackground(colour.has_value());
 }
 
-CPanel::CPanel(QWidget* parent) : QWidget(parent)
-{
-    setAutoFillBackground(true);
-}
-
-void CPanel::SetColour(const std::optional<QColor>& colour)
-{
-    SetGround(*this, colour);
-}
-
-void CStaticEx::SetColour(const std::optional<QColor>& colour)
+void SetTextColour(QWidget& widget, QPalette::ColorRole role, const std::optional<QColor>& colour)
 {
     QPalette own;
     own.setResolveMask(0);
-    if (colour)
-        own.setColor(QPalette::WindowText, Readable(*colour, palette().color(QPalette::Window)));
-    setPalette(own);
+    const QPalette::ColorRole ground = role == QPalette::Text ? QPalette::Base : QPalette::Window;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        if (colour)
+            own.setColor(group, role, Readable(*colour, widget.palette().color(ground)));
+    }
+    widget.setPalette(own);
 }
 
 void CStaticEx::SetImage(const QString& image)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CPanel: a surface filled with one colour, which is the ground of the texts on it too; CStaticEx: a text or
-// a picture that the user only looks at.
+// CPanel: a surface that the skin may fill with one colour, which is the ground of the texts on it too;
+// CStaticEx: a text or a picture that the user only looks at.
 #pragma once
 
 #include <QLabel>
@@ -12,14 +12,20 @@
 namespace ui
 {
 
+// Gives `widget` and what stands on it a ground of that colour, with texts that can be read on it; without a
+// colour, those of the application again.
+void SetGround(QWidget& widget, const std::optional<QColor>& colour);
+// The colour of a widget's text, made readable on its ground; none: the window's.
+void SetTextColour(QWidget& widget, QPalette::ColorRole role, const std::optional<QColor>& colour);
+
 class CPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit CPanel(QWidget* parent = nullptr);
-    // No colour: the window's.
-    void SetColour(const std::optional<QColor>& colour);
+    using QWidget::QWidget;
+    // No colour: what lies below shows.
+    void SetColour(const std::optional<QColor>& colour) { SetGround(*this, colour); }
 };
 
 class CStaticEx : public QLabel
@@ -30,8 +36,6 @@ public:
     explicit CStaticEx(QWidget* parent = nullptr) : QLabel(parent) {}
     explicit CStaticEx(const QString& text, QWidget* parent = nullptr) : QLabel(text, parent) {}
 
-    // The text's colour, made readable on the ground; none: the window's.
-    void SetColour(const std::optional<QColor>& colour);
     // A picture of the skin in place of the text; the text stays where the skin has none.
     void SetImage(const QString& image);
     QSize sizeHint() const override;
@@ -44,9 +48,5 @@ private:
     QSize ImageSize() const;
     QString imageName;
 };
-
-// Gives `widget` and what stands on it a ground of that colour, with texts that can be read on it; without a
-// colour, those of the application again.
-void SetGround(QWidget& widget, const std::optional<QColor>& colour);
 
 }  // namespace ui

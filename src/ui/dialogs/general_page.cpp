@@ -51,6 +51,7 @@ std::string CommonFolder(const std::vector<std::string>& paths)
 
 CGeneralPage::CGeneralPage(QWidget* parent) : CPropertyPage(parent), lines(new QFormLayout(this))
 {
+    setObjectName(QStringLiteral("general"));
     lines->setContentsMargins(4 * kGrid, 4 * kGrid, 4 * kGrid, 4 * kGrid);
     lines->setHorizontalSpacing(4 * kGrid);
     lines->setVerticalSpacing(2 * kGrid);

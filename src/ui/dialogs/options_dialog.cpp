@@ -4,14 +4,15 @@
 
 #include "platform/services.h"
 #include "ui/background.h"
+#include "ui/controls/dialog_buttons.h"
+#include "ui/controls/message_box.h"
+#include "ui/controls/panel.h"
 #include "ui/display_text.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -23,11 +24,13 @@ namespace ui
 COptionsDialog::COptionsDialog(std::string iniFolder, QWidget* parent)
     : QDialog(parent), programFolder(std::move(iniFolder)), values(app::LoadOptions(programFolder)),
       leftPhotos(new QButtonGroup(this)), search(new QLineEdit(this)), onlyPresent(new QCheckBox(this)),
-      ports(new QListWidget(this)), portHint(new QLabel(this))
+      ports(new QListWidget(this)), portHint(new CStaticEx(this))
 {
+    setObjectName(QStringLiteral("OptionsDlg"));
     setWindowTitle(Text(StringId::optionsTitle));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    auto* buttons = new QDialogButtonBox(this);
+    AddButton(*buttons, QDialogButtonBox::Ok, "ok")->setDefault(true);
+    AddButton(*buttons, QDialogButtonBox::Cancel, "cancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &COptionsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
@@ -53,13 +56,18 @@ COptionsDialog::COptionsDialog(std::string iniFolder, QWidget* parent)
 QWidget* COptionsDialog::MakeCameraGroup()
 {
     auto* group = new QGroupBox(Text(StringId::optionsLeftPhotos), this);
+    group->setObjectName(QStringLiteral("left_photos"));
     auto* column = new QVBoxLayout(group);
     const struct {
         int value;
         StringId text;
-    } choices[] = {{2, StringId::optionsAsk}, {0, StringId::optionsKeep}, {1, StringId::optionsDelete}};
+        const char* name;
+    } choices[] = {{2, StringId::optionsAsk, "ask"},
+                   {0, StringId::optionsKeep, "keep"},
+                   {1, StringId::optionsDelete, "delete"}};
     for (const auto& choice : choices) {
         auto* button = new QRadioButton(Text(choice.text), group);
+        button->setObjectName(QString::fromLatin1(choice.name));
         leftPhotos->addButton(button, choice.value);
         column->addWidget(button);
     }
@@ -72,6 +80,7 @@ QWidget* COptionsDialog::MakeCameraGroup()
 QWidget* COptionsDialog::MakePortGroup()
 {
     auto* group = new QGroupBox(Text(StringId::optionsPort), this);
+    group->setObjectName(QStringLiteral("port"));
     search->setPlaceholderText(Text(StringId::optionsSearch));
     search->setAccessibleName(Text(StringId::optionsSearch));
     search->setClearButtonEnabled(true);
@@ -86,10 +95,12 @@ QWidget* COptionsDialog::MakePortGroup()
     connect(ports, &QListWidget::itemDoubleClicked, this, &COptionsDialog::accept);
     auto* column = new QVBoxLayout(group);
     column->setSpacing(2 * kGrid);
-    column->addWidget(search);
-    column->addWidget(ports, 1);
-    column->addWidget(onlyPresent);
-    column->addWidget(portHint);
+    const std::pair<QWidget*, const char*> rows[] = {
+        {search, "search"}, {ports, "ports"}, {onlyPresent, "only_present"}, {portHint, "hint"}};
+    for (const auto& [row, name] : rows) {
+        row->setObjectName(QString::fromLatin1(name));
+        column->addWidget(row, row == ports ? 1 : 0);
+    }
     return group;
 }
 
@@ -148,10 +159,9 @@ void COptionsDialog::accept()
     const bool kept = app::KeepPort(programFolder, shown, values.portPosition);
     if (app::SaveOptions(programFolder, values) && kept)
         return QDialog::accept();
-    auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), Text(StringId::optionsNotSaved),
-                                QMessageBox::Ok, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    auto* box = new CMessageBox(CMessageBox::Warning, windowTitle(), Text(StringId::optionsNotSaved), this);
+    box->Add(CMessageBox::Ok);
+    box->Open();
 }
 
 }  // namespace ui

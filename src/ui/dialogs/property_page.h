@@ -3,7 +3,7 @@
 // CPropertyPage: one tab of the properties dialog.
 #pragma once
 
-#include <QWidget>
+#include "ui/controls/panel.h"
 
 #include <string>
 #include <vector>
@@ -11,12 +11,12 @@
 namespace ui
 {
 
-class CPropertyPage : public QWidget
+class CPropertyPage : public CPanel
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    using CPanel::CPanel;
     virtual QString Title() const = 0;
     // Called once, before the dialog is shown, with at least one path. Whatever takes long is read
     // afterwards, off the window's thread, and ends when the page goes.

@@ -4,21 +4,23 @@
 
 #include "platform/services.h"
 #include "ui/background.h"
+#include "ui/controls/dialog_buttons.h"
+#include "ui/controls/panel.h"
 #include "ui/display_text.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
-#include <QPushButton>
+#include <QDialogButtonBox>
 #include <QVBoxLayout>
 
 namespace ui
 {
 
 CSelectSourceDialog::CSelectSourceDialog(QWidget* parent)
-    : QDialog(parent), what(new QLabel(Text(StringId::sourceLooking), this)), busy(new QProgressBar(this)),
-      list(new QListWidget(this)),
-      buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+    : QDialog(parent), what(new CStaticEx(Text(StringId::sourceLooking), this)), busy(new QProgressBar(this)),
+      list(new QListWidget(this)), choose(nullptr)
 {
+    setObjectName(QStringLiteral("SelectSourceDlg"));
     setWindowTitle(Text(StringId::sourceTitle));
     what->setWordWrap(true);
     what->setBuddy(list);
@@ -27,17 +29,22 @@ CSelectSourceDialog::CSelectSourceDialog(QWidget* parent)
     busy->setAccessibleName(Text(StringId::sourceLooking));
     list->setAccessibleName(Text(StringId::sourceTitle));
     list->setEnabled(false);
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Ok)->setEnabled(false);
+    auto* buttons = new QDialogButtonBox(this);
+    choose = AddButton(*buttons, QDialogButtonBox::Ok, "ok");
+    choose->setDefault(true);
+    choose->setEnabled(false);
+    AddButton(*buttons, QDialogButtonBox::Cancel, "cancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &CSelectSourceDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(list, &QListWidget::itemDoubleClicked, this, &CSelectSourceDialog::accept);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4 * kGrid, 4 * kGrid, 4 * kGrid, 4 * kGrid);
     column->setSpacing(2 * kGrid);
-    column->addWidget(what);
-    column->addWidget(busy);
-    column->addWidget(list, 1);
+    const std::pair<QWidget*, const char*> rows[] = {{what, "text"}, {busy, "progress"}, {list, "list"}};
+    for (const auto& [row, name] : rows) {
+        row->setObjectName(QString::fromLatin1(name));
+        column->addWidget(row, row == list ? 1 : 0);
+    }
     column->addWidget(buttons);
     resize(100 * kGrid, 70 * kGrid);
     InBackground(
@@ -60,7 +67,7 @@ void CSelectSourceDialog::ShowSources(std::optional<std::vector<platform::Pictur
         list->addItem(Shown(source.name));
     list->setCurrentRow(app::DefaultSource(sources));
     list->setEnabled(!sources.empty());
-    buttons->button(QDialogButtonBox::Ok)->setEnabled(!sources.empty());
+    choose->setEnabled(!sources.empty());
     what->setText(Text(sources.empty() ? StringId::sourceNone : StringId::sourceChoose));
     if (!sources.empty())
         list->setFocus();

@@ -6,10 +6,10 @@
 #include "app/picture_source.h"
 
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QPushButton>
 
 #include <optional>
 
@@ -39,7 +39,7 @@ private:
     QLabel* what;
     QProgressBar* busy;
     QListWidget* list;
-    QDialogButtonBox* buttons;
+    QPushButton* choose;
 };
 
 }  // namespace ui

@@ -4,14 +4,14 @@
 
 #include "browser/file_names.h"
 #include "platform/services.h"
+#include "ui/controls/dialog_buttons.h"
+#include "ui/controls/panel.h"
 #include "ui/display_text.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace ui
@@ -29,9 +29,10 @@ QString FactsText(const std::string& path)
     return facts->isFolder ? time : Text(StringId::filesClashFacts, SizeText(facts->size), time);
 }
 
-QLabel* PlainLabel(const QString& text, QWidget* parent)
+QLabel* PlainLabel(const QString& text, const char* name, QWidget* parent)
 {
-    auto* label = new QLabel(text, parent);
+    auto* label = new CStaticEx(text, parent);
+    label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
@@ -44,11 +45,13 @@ CClashDialog::CClashDialog(const browser::Clash& clash, QWidget* parent)
 {
     using enum browser::ClashAnswer;
     setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("ClashDlg"));
+    forAll->setObjectName(QStringLiteral("for_all"));
     setWindowTitle(Text(StringId::filesClashTitle));
     const StringId question = clash.areFolders ? StringId::filesClashFolder : StringId::filesClashFile;
     const QString heading = Text(question, Shown(browser::FileName(clash.target)),
                                  Shown(browser::FileName(browser::FolderOf(clash.target))));
-    auto* title = PlainLabel(heading, this);
+    auto* title = PlainLabel(heading, "text", this);
     QFont strong = title->font();
     strong.setWeight(QFont::DemiBold);
     title->setFont(strong);
@@ -58,38 +61,40 @@ CClashDialog::CClashDialog(const browser::Clash& clash, QWidget* parent)
 
     auto* buttons = new QDialogButtonBox(this);
     if (clash.areFolders)
-        AddChoice(*buttons, Text(StringId::filesClashMerge), Text(StringId::filesClashMergeTip), merge);
-    AddChoice(*buttons, Text(StringId::filesClashKeepBoth), Text(StringId::filesClashKeepBothTip), keepBoth);
-    AddChoice(*buttons, Text(StringId::filesClashReplace), Text(StringId::filesClashReplaceTip), replace);
-    AddChoice(*buttons, Text(StringId::filesClashSkip), {}, skip);
-    AddChoice(*buttons, Text(StringId::filesCancel), {}, cancel);
+        AddChoice(*buttons, "merge", Text(StringId::filesClashMerge), merge)
+            .setToolTip(Text(StringId::filesClashMergeTip));
+    AddChoice(*buttons, "keep_both", Text(StringId::filesClashKeepBoth), keepBoth)
+        .setToolTip(Text(StringId::filesClashKeepBothTip));
+    AddChoice(*buttons, "replace", Text(StringId::filesClashReplace), replace)
+        .setToolTip(Text(StringId::filesClashReplaceTip));
+    AddChoice(*buttons, "skip", Text(StringId::filesClashSkip), skip);
+    AddChoice(*buttons, "cancel", Text(StringId::filesCancel), cancel);
+    for (QAbstractButton* button : buttons->buttons())
+        button->setAccessibleDescription(button->toolTip());
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4 * kGrid, 4 * kGrid, 4 * kGrid, 4 * kGrid);
     column->setSpacing(2 * kGrid);
     column->addWidget(title);
-    column->addWidget(PlainLabel(there, this));
-    column->addWidget(PlainLabel(coming, this));
+    column->addWidget(PlainLabel(there, "there", this));
+    column->addWidget(PlainLabel(coming, "coming", this));
     column->addSpacing(kGrid);
     column->addWidget(forAll);
     column->addSpacing(kGrid);
     column->addWidget(buttons);
 }
 
-void CClashDialog::AddChoice(QDialogButtonBox& buttons, const QString& text, const QString& tip,
-                             browser::ClashAnswer answer)
+QPushButton& CClashDialog::AddChoice(QDialogButtonBox& buttons, const char* name, const QString& text,
+                                     browser::ClashAnswer answer)
 {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(QStringLiteral("answer%1").arg(static_cast<int>(answer)));
-    button->setToolTip(tip);
-    button->setAccessibleDescription(tip);
+    // One role for all keeps them in this order on every desktop.
+    CButtonEx* button = AddButton(buttons, text, QDialogButtonBox::ActionRole, name);
     button->setAutoDefault(true);
     button->setDefault(answer == browser::ClashAnswer::keepBoth);
     if (answer == browser::ClashAnswer::keepBoth)
         button->setFocus();
-    // One role for all keeps them in this order on every desktop.
-    buttons.addButton(button, QDialogButtonBox::ActionRole);
     connect(button, &QPushButton::clicked, this, [this, answer] { Choose(answer); });
+    return *button;
 }
 
 void CClashDialog::Choose(browser::ClashAnswer answer)

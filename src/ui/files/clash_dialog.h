@@ -9,6 +9,7 @@
 
 class QCheckBox;
 class QDialogButtonBox;
+class QPushButton;
 
 namespace ui
 {
@@ -25,8 +26,8 @@ Q_SIGNALS:
     void Answered(const browser::ClashReply& reply);
 
 private:
-    void AddChoice(QDialogButtonBox& buttons, const QString& text, const QString& tip,
-                   browser::ClashAnswer answer);
+    QPushButton& AddChoice(QDialogButtonBox& buttons, const char* name, const QString& text,
+                           browser::ClashAnswer answer);
     void Choose(browser::ClashAnswer answer);
 
     QCheckBox* forAll;

@@ -4,6 +4,7 @@
 
 #include "browser/file_names.h"
 #include "platform/services.h"
+#include "ui/controls/message_box.h"
 #include "ui/display_text.h"
 #include "ui/files/file_mime.h"
 #include "ui/files/name_editor.h"
@@ -20,8 +21,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -186,20 +185,17 @@ void CFileActions::DeleteForGood()
 
 void CFileActions::AskToRemove(const std::vector<std::string>& paths, const QString& question)
 {
-    auto* box = new QMessageBox(QMessageBox::Warning, Text(StringId::filesAskTitle), question,
-                                QMessageBox::NoButton, &window);
-    box->setTextFormat(Qt::PlainText);
+    auto* box = new CMessageBox(CMessageBox::Warning, Text(StringId::filesAskTitle), question, &window);
     box->setInformativeText(Text(StringId::filesAskRemoveMore));
-    box->addButton(Text(StringId::filesAskRemoveButton), QMessageBox::AcceptRole);
-    QPushButton* keep = box->addButton(Text(StringId::filesCancel), QMessageBox::RejectRole);
+    box->Add(Text(StringId::filesAskRemoveButton), CMessageBox::AcceptRole);
+    CButtonEx* keep = box->Add(Text(StringId::filesCancel), CMessageBox::RejectRole);
     box->setDefaultButton(keep);
     box->setEscapeButton(keep);
-    box->setAttribute(Qt::WA_DeleteOnClose);
     connect(box, &QMessageBox::buttonClicked, this, [this, paths, keep](const QAbstractButton* pressed) {
         if (pressed != keep)
             Start({FileTask::remove, paths, {}, {}, {}});
     });
-    box->open();
+    box->Open();
 }
 
 void CFileActions::Rename()

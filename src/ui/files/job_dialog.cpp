@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/files/job_dialog.h"
 
+#include "ui/controls/dialog_buttons.h"
+#include "ui/controls/panel.h"
 #include "ui/display_text.h"
 #include "ui/path_label.h"
 #include "ui/theme.h"
@@ -49,11 +51,12 @@ QString Heading(browser::FileTask task, std::size_t items)
 }  // namespace
 
 CJobDialog::CJobDialog(QWidget* parent)
-    : QDialog(parent), heading(new QLabel(this)), path(new CPathLabel(this)), bar(new QProgressBar(this)),
-      more(new QLabel(this)), stop(nullptr)
+    : QDialog(parent), heading(new CStaticEx(this)), path(new CPathLabel(this)), bar(new QProgressBar(this)),
+      more(new CStaticEx(this)), stop(nullptr)
 {
+    setObjectName(QStringLiteral("JobDlg"));
     auto* buttons = new QDialogButtonBox(this);
-    stop = buttons->addButton(Text(StringId::filesCancel), QDialogButtonBox::RejectRole);
+    stop = AddButton(*buttons, Text(StringId::filesCancel), QDialogButtonBox::RejectRole, "stop");
     connect(stop, &QPushButton::clicked, this, &CJobDialog::reject);
     bar->setRange(0, kSteps);
     bar->setTextVisible(false);
@@ -65,9 +68,12 @@ CJobDialog::CJobDialog(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4 * kGrid, 4 * kGrid, 4 * kGrid, 4 * kGrid);
     column->setSpacing(2 * kGrid);
-    for (QWidget* row : {static_cast<QWidget*>(heading), static_cast<QWidget*>(path),
-                         static_cast<QWidget*>(bar), static_cast<QWidget*>(more)})
+    const std::pair<QWidget*, const char*> rows[] = {
+        {heading, "text"}, {path, "filename"}, {bar, "progress"}, {more, "waiting"}};
+    for (const auto& [row, name] : rows) {
+        row->setObjectName(QString::fromLatin1(name));
         column->addWidget(row);
+    }
     column->addWidget(buttons);
     setFixedWidth(kWidth);
 }

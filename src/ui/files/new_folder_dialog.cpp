@@ -6,6 +6,8 @@
 #include "browser/file_names.h"
 #include "platform/services.h"
 #include "platform/shell.h"
+#include "ui/controls/dialog_buttons.h"
+#include "ui/controls/panel.h"
 #include "ui/display_text.h"
 #include "ui/files/name_editor.h"
 #include "ui/files/name_text.h"
@@ -45,12 +47,17 @@ std::string FreeName(const std::string& folder)
 
 CNewFolderDialog::CNewFolderDialog(const std::string& folder, QWidget* parent)
     : QDialog(parent), parentFolder(folder), name(new QLineEdit(NameText(FreeName(folder)), this)),
-      message(new QLabel(this)), create(nullptr)
+      message(new CStaticEx(this)), create(nullptr)
 {
+    setObjectName(QStringLiteral("NewFolderDlg"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(Text(StringId::filesAskFolderTitle));
     const std::string_view shown = browser::FileName(folder);
-    auto* label = new QLabel(Text(StringId::filesAskFolderName, Shown(shown.empty() ? folder : shown)), this);
+    auto* label =
+        new CStaticEx(Text(StringId::filesAskFolderName, Shown(shown.empty() ? folder : shown)), this);
+    label->setObjectName(QStringLiteral("text"));
+    name->setObjectName(QStringLiteral("name"));
+    message->setObjectName(QStringLiteral("message"));
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(name);
     name->setAccessibleName(label->text());
@@ -58,8 +65,8 @@ CNewFolderDialog::CNewFolderDialog(const std::string& folder, QWidget* parent)
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
     auto* buttons = new QDialogButtonBox(this);
-    create = buttons->addButton(Text(StringId::filesCreate), QDialogButtonBox::AcceptRole);
-    buttons->addButton(Text(StringId::filesCancel), QDialogButtonBox::RejectRole);
+    create = AddButton(*buttons, Text(StringId::filesCreate), QDialogButtonBox::AcceptRole, "ok");
+    AddButton(*buttons, Text(StringId::filesCancel), QDialogButtonBox::RejectRole, "cancel");
     connect(buttons, &QDialogButtonBox::accepted, this, &CNewFolderDialog::Choose);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(name, &QLineEdit::textChanged, this, &CNewFolderDialog::Check);

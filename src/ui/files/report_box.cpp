@@ -3,10 +3,11 @@
 #include "ui/files/report_box.h"
 
 #include "browser/file_names.h"
+#include "ui/controls/message_box.h"
 #include "ui/display_text.h"
 #include "ui/words.h"
 
-#include <QMessageBox>
+#include <QLocale>
 
 namespace ui
 {
@@ -68,6 +69,11 @@ QString Heading(FileTask task, qint64 count)
     return {};
 }
 
+QString Number(std::size_t number)
+{
+    return QLocale().toString(static_cast<qulonglong>(number));
+}
+
 QString Details(const browser::FileJobReport& report)
 {
     QStringList lines;
@@ -80,9 +86,9 @@ QString Details(const browser::FileJobReport& report)
         lines.append(
             Counted(StringId::filesMoreProblems, static_cast<qint64>(report.problemCount - kMostLines)));
     lines.append(QString());
-    lines.append(Text(StringId::filesWereDone, QString::number(report.done), QString::number(report.items)));
+    lines.append(Text(StringId::filesWereDone, Number(report.done), Number(report.items)));
     if (report.skipped > 0)
-        lines.append(Text(StringId::filesWereSkipped, QString::number(report.skipped)));
+        lines.append(Text(StringId::filesWereSkipped, Number(report.skipped)));
     if (report.cancelled)
         lines.append(Text(StringId::filesWasCancelled));
     return lines.join(QLatin1Char('\n'));
@@ -94,13 +100,11 @@ void TellReport(QWidget* parent, const browser::FileJobReport& report)
 {
     if (report.problemCount == 0)
         return;
-    auto* box = new QMessageBox(QMessageBox::Warning, Text(StringId::filesReportTitle),
-                                Heading(report.task, static_cast<qint64>(report.problemCount)),
-                                QMessageBox::Ok, parent);
-    box->setTextFormat(Qt::PlainText);
+    auto* box = new CMessageBox(CMessageBox::Warning, Text(StringId::filesReportTitle),
+                                Heading(report.task, static_cast<qint64>(report.problemCount)), parent);
     box->setInformativeText(Details(report));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    box->Add(CMessageBox::Ok);
+    box->Open();
 }
 
 QString UndoText(const browser::UndoRecord* record)
