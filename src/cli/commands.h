@@ -16,6 +16,7 @@ void AddSettingsCommand(CLI::App& parser, CContext& context);
 void AddListCommands(CLI::App& parser, CContext& context);  // list, filelist
 void AddThumbsCommand(CLI::App& parser, CContext& context);
 void AddStoreCommand(CLI::App& parser, CContext& context);
+void AddExifCommand(CLI::App& parser, CContext& context);
 void AddArchiveCommand(CLI::App& parser, CContext& context);
 void AddWatchCommand(CLI::App& parser, CContext& context);
 

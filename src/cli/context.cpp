@@ -108,6 +108,34 @@ browser::CThumbDbMgr& CContext::Store()
     return *store;
 }
 
+CJsonArray::CJsonArray(const CContext& context) : enabled(context.json)
+{
+    if (enabled) {
+        CContext::PrintBytes("[");
+    }
+}
+
+CJsonArray::~CJsonArray()
+{
+    if (enabled) {
+        CContext::PrintBytes(isEmpty ? "]\n" : "\n]\n");
+    }
+}
+
+void CJsonArray::Add(const Json& element)
+{
+    if (!enabled) {
+        return;
+    }
+    std::string text = (isEmpty ? "\n" : ",\n") + element.dump(2, ' ', false, Json::error_handler_t::replace);
+    isEmpty = false;
+    // Texts hold no line breaks, so each is one between two values.
+    for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 1)) {
+        text.insert(at + 1, "  ");
+    }
+    CContext::PrintBytes(text);
+}
+
 std::string AbsolutePath(const std::string& path)
 {
     if (path.empty() || path.front() == '/') {

@@ -64,6 +64,22 @@ private:
     std::optional<browser::CThumbDbMgr> store;
 };
 
+// With --json, an array on standard output, an element at a time, so that a long one takes no memory. It ends
+// with the object.
+class CJsonArray
+{
+public:
+    explicit CJsonArray(const CContext& context);
+    ~CJsonArray();
+    CJsonArray(const CJsonArray&) = delete;
+    CJsonArray& operator=(const CJsonArray&) = delete;
+    void Add(const Json& element);
+
+private:
+    bool enabled = false;
+    bool isEmpty = true;
+};
+
 // The path as seen from the root: what is relative is taken from the current folder. A trailing separator
 // stays, but for "." and "..".
 std::string AbsolutePath(const std::string& path);

@@ -10,7 +10,7 @@ namespace cli
 int Run(int argc, const char* const* argv, const char* version)
 {
     constexpr int kWrongUsage = 2;
-    CLI::App parser("Kelvo from the command line: thumbnails, archives, lists and settings.\n"
+    CLI::App parser("Kelvo from the command line: thumbnails, archives, lists, photos' facts and settings.\n"
                     "Exit status: 0 done, 1 failed for at least one item, 2 wrong usage.",
                     "kelvoctl");
     CContext context;
@@ -25,6 +25,7 @@ int Run(int argc, const char* const* argv, const char* version)
     AddListCommands(parser, context);
     AddThumbsCommand(parser, context);
     AddStoreCommand(parser, context);
+    AddExifCommand(parser, context);
     AddArchiveCommand(parser, context);
     AddWatchCommand(parser, context);
     CatchInterruptions();

@@ -13,6 +13,7 @@ import zlib
 from pathlib import Path
 
 KELVOCTL = sys.argv.pop(1)
+CAMERA = Path(__file__).parents[2] / "fuzz/corpus/exif"
 SAMPLES = Path(KELVOCTL).parent.parent / "share/kelvo/My Favorite/Photo/Sample"
 
 
@@ -213,6 +214,51 @@ class Kelvoctl(unittest.TestCase):
         self.assertEqual(len({record["dbFileName"] for record in records}), len(folders))
         for folder in folders:
             self.assertEqual(self.json("thumbs", str(folder))["reused"], 3)
+
+    def test_exif_prints_every_field_and_goes_on_past_failures(self):
+        photos = self.work / "photos"
+        photos.mkdir()
+        for name in ("b10.jpg", "b9.JPG", "note.txt"):
+            (photos / name).write_bytes((CAMERA / "intel.jpg").read_bytes())
+        (self.work / "text").write_bytes(b"no photo")
+        (self.work / "cut").write_bytes((CAMERA / "motorola.jpg").read_bytes()[:-100])
+        told = self.run_it("--json", "exif", "photos", "text", "cut", "none", status=1)
+        by_path = {item.pop("path"): item for item in json.loads(told.stdout)}
+        self.assertEqual(list(by_path), ["photos/b9.JPG", "photos/b10.jpg", "text", "cut", "none"])
+        record = by_path["photos/b9.JPG"]["record"]
+        self.assertEqual([record[name] for name in ("CameraMake", "DateTime", "Orientation", "ExposureTime", "IsExif")],
+                         ["Halden", "2004:05:17 10:22:31", 6, struct.unpack("f", struct.pack("f", 1 / 60))[0], True])
+        self.assertEqual([item["result"] for item in by_path.values()], [True, True, False, False, False])
+        self.assertEqual(by_path["cut"]["error"], "Premature end of file?")
+        self.assertEqual(by_path["cut"]["record"]["CameraMake"], "Halden")
+        self.assertEqual([line.split(b": ")[1] for line in told.stderr.splitlines()], [b"text", b"cut", b"none"])
+        lines = self.run_it("exif", "photos").stdout.splitlines()
+        self.assertEqual(len(lines), 2 * len(record))
+        self.assertIn(b"photos/b10.jpg\tCameraMake\tHalden", lines)
+
+        self.run_it("exif", "photos/b9.JPG", "--thumbnail", "one.jpg")
+        self.run_it("exif", "photos", "--thumbnail", "many")
+        section = (photos / "b9.JPG").read_bytes().partition(b"\xff\xe1")[2]
+        thumbnail = section[record["ThumbnailPointer"]:][:record["ThumbnailSize"]]
+        for name in ("one.jpg", "many/b9.JPG.jpg", "many/b10.jpg.jpg"):
+            self.assertEqual((self.work / name).read_bytes(), thumbnail)
+        self.run_it("exif", "cut", "--thumbnail", "none.jpg", status=1)
+        self.assertFalse((self.work / "none.jpg").exists())
+        self.run_it("exif", "--summary", "photos", "--thumbnail", "x", status=2)
+
+    def test_the_exif_summary_comes_byte_for_byte(self):
+        for name, source in (("dated.jpg", "motorola.jpg"), ("plain.jpg", "plain.jpg")):
+            (self.work / name).write_bytes((CAMERA / source).read_bytes())
+        summary = self.run_it("exif", "--summary", "dated.jpg").stdout
+        self.assertEqual(summary.splitlines(keepends=True)[:3],
+                         [b"Exif Version = 2.20\r\n", b"Date Time Original = 2004:05:17 10:22:31\r\n",
+                          b"Exposure Bias = -33/100 (APEX)\r\n"])
+        self.assertTrue(summary.endswith(b"Color Space = \r\nPixel X Dimension = 3000\r\n"), summary)
+        self.assertEqual(self.run_it("exif", "--summary", "plain.jpg").stdout, b"")
+        both = self.run_it("--json", "exif", "--summary", ".", "none", status=1)
+        self.assertEqual(json.loads(both.stdout), [{"path": "./dated.jpg", "summary": summary.decode()},
+                                                   {"path": "./plain.jpg", "summary": ""},
+                                                   {"path": "none", "summary": ""}])
 
 
 if __name__ == "__main__":
