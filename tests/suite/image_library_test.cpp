@@ -107,6 +107,8 @@ TEST_F(CImageTest, ExifValuesComeRawInNativeByteOrder)
         EXPECT_EQ(fraction[0], 72U);
         EXPECT_EQ(fraction[1], 1U);
         EXPECT_FALSE(image.GetPropertyItem(0x9999));
+        EXPECT_EQ(image.GetPropertyItemSize(0x9999), 0U);
+        EXPECT_GE(image.GetPropertyItemSize(platform::kTagDateTimeOriginal), 20U);
     }
     EXPECT_FALSE(CImage(Sample("colour.jpg")).GetPropertyItem(platform::kTagDateTimeOriginal));
 }
