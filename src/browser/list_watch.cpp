@@ -42,6 +42,7 @@ private:
     std::span<platform::CWaitable* const> Handles() const { return std::span(handles).first(count); }
     Next React(std::uint32_t result);
     void TakePath();
+    void Replace(std::unique_ptr<platform::CChangeNotification> next);
     void Follow(const std::string& path);
     void TellFollowing(Following now);
     void OnChange();
@@ -65,7 +66,7 @@ void CListWatch::CWatcher::Run()
         Trace(fmt::format(" dw = {}\n", static_cast<std::int32_t>(result)));
         next = React(result);
     }
-    notification.reset();
+    Replace(nullptr);
     Following former = Following::yes;
     list.following.compare_exchange_strong(former, Following::no);
     list.watchers.ClearWatching();
@@ -105,8 +106,7 @@ CListWatch::CWatcher::Next CListWatch::CWatcher::React(std::uint32_t result)
 
 void CListWatch::CWatcher::TakePath()
 {
-    handles[2] = nullptr;
-    notification.reset();
+    Replace(nullptr);
     std::string path;
     if (window.SendMessage(kListWatchPathMessage, path) == 0) {
         return;
@@ -120,12 +120,21 @@ void CListWatch::CWatcher::TakePath()
     }
 }
 
+void CListWatch::CWatcher::Replace(std::unique_ptr<platform::CChangeNotification> next)
+{
+    {
+        const std::lock_guard lock(list.currentLock);
+        list.current = next.get();
+    }
+    handles[2] = next.get();
+    notification = std::move(next);
+}
+
 void CListWatch::CWatcher::Follow(const std::string& path)
 {
     using namespace platform;
-    notification = changes.FindFirst(path, WatchDepth::folderOnly,
-                                     kNotifyChangeFileName | kNotifyChangeDirName | kNotifyChangeLastWrite);
-    handles[2] = notification.get();
+    Replace(changes.FindFirst(path, WatchDepth::folderOnly,
+                              kNotifyChangeFileName | kNotifyChangeDirName | kNotifyChangeLastWrite));
     if (!notification) {
         Trace("==> File notify thread was unable to create notification object\n");
         TellFollowing(Following::no);
@@ -202,6 +211,16 @@ Following CListWatch::CheckFollowing()
         PathChanged();
     }
     return following;
+}
+
+// Where the watcher is at it just now, the list may read once more than it needs to.
+void CListWatch::ForgetChanges()
+{
+    const std::unique_lock lock(currentLock, std::try_to_lock);
+    if (lock && current && !current->Forget()) {
+        following = Following::no;
+        window.PostMessage(kListFollowingMessage);
+    }
 }
 
 void CListWatch::PostPending()

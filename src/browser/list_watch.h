@@ -12,6 +12,8 @@
 
 #include "browser/watcher_threads.h"
 
+#include <mutex>
+
 namespace browser
 {
 
@@ -38,10 +40,14 @@ public:
     Following CheckFollowing();
     void StopWatcher() { watchers.StopAll(); }
 
+    // The list is about to read the folder: changes up to now need not be told of.
+    void ForgetChanges();
     // Changes while refreshing are held back, and told of by one message when it ends.
     void SetRefreshing(bool on);
     // The next change is the list's own doing: it is not told of.
     void SwallowNextChange() { notifyAllowed = 0; }
+    // Every change is told of again. True when one has been swallowed since, so that a reading must follow.
+    bool AllowChanges() { return notifyAllowed.exchange(1) != 0; }
 
 private:
     class CWatcher;
@@ -54,7 +60,9 @@ private:
     Flag refreshPending = 0;
     Flag refreshing = 0;
     std::atomic<Following> following = Following::unknown;
-    CWatcherThreads watchers;  // goes first
+    std::mutex currentLock;                            // never waited for by the window
+    platform::CChangeNotification* current = nullptr;  // the watcher's
+    CWatcherThreads watchers;                          // goes first
 };
 
 }  // namespace browser

@@ -33,10 +33,15 @@ void CTreeWatch::CreateFileChangeThreads()
         return;
     }
     std::string roots;
-    const std::size_t needed = changes->GetLogicalDriveStrings(kRoomForRoots, roots);
+    std::size_t needed = changes->GetLogicalDriveStrings(kRoomForRoots, roots);
     if (needed == 0 || needed > kRoomForRoots) {
         Trace("Warning: CreateFileChangeThreads failed in GetLogicalDriveStrings\n");
-        return;
+        // Mount points are longer than drive letters: no reason to follow none of them.
+        const std::size_t room = needed;
+        needed = room == 0 ? 0 : changes->GetLogicalDriveStrings(room, roots);
+        if (needed == 0 || needed > room) {
+            return;
+        }
     }
     for (std::size_t begin = 0; begin < roots.size() && roots[begin] != 0;) {
         const std::string root = roots.c_str() + begin;

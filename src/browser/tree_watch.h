@@ -29,6 +29,8 @@ public:
     void SetWatching(bool on) { isOn = on; }
     // The next change is the tree's own doing: it is not told of.
     void SwallowNextChange() { notifyAllowed = 0; }
+    // Every change is told of again. True when one has been swallowed since, so that a reading must follow.
+    bool AllowChanges() { return notifyAllowed.exchange(1) != 0; }
 
 private:
     void StartWatcher(const std::string& root);

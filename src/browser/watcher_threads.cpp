@@ -29,18 +29,29 @@ bool CWatcherThreads::Start(std::function<int(platform::CEvent& stop)> body)
 
 void CWatcherThreads::StopAll()
 {
-    if (IsWatching()) {
-        std::vector<platform::CThread*> threads;
-        for (const Watcher& watcher : watchers) {
-            watcher.stop->Set();
-            threads.push_back(watcher.thread.get());
-        }
-        platform::CUtility& utility = *platform::Os().utility;
-        utility.OutputDebugString("WaitForMultipleObjects...");
-        platform::Os().changes->WaitForThreads(threads);
-        utility.OutputDebugString("WaitForMultipleObjects... OK !!!");
-        watching = 0;
+    if (!IsWatching()) {
+        return Forget();
     }
+    for (const Watcher& watcher : watchers) {
+        watcher.stop->Set();
+    }
+    platform::CUtility& utility = *platform::Os().utility;
+    utility.OutputDebugString("WaitForMultipleObjects...");
+    Forget();
+    utility.OutputDebugString("WaitForMultipleObjects... OK !!!");
+    watching = 0;
+}
+
+void CWatcherThreads::Forget()
+{
+    if (watchers.empty()) {
+        return;
+    }
+    std::vector<platform::CThread*> threads;
+    for (const Watcher& watcher : watchers) {
+        threads.push_back(watcher.thread.get());
+    }
+    platform::Os().changes->WaitForThreads(threads);
     watchers.clear();
 }
 

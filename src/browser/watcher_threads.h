@@ -29,7 +29,7 @@ public:
     // Sets every stop event, then waits for all the threads.
     void StopAll();
     // Waits for the threads, all of which have ended or are about to.
-    void Forget() { watchers.clear(); }
+    void Forget();
 
     bool IsWatching() const { return watching != 0; }
     // May be called by a watcher at its end.

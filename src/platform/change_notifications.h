@@ -54,6 +54,9 @@ public:
     // Arms it again: changes since the latest signal count. False when the folder can be followed no longer
     // (it was removed, renamed or unmounted).
     virtual bool FindNext() = 0;
+    // Changes up to now do not count, as far as no wait has taken them. May be called while another thread
+    // waits, and does not wait for it. False as FindNext.
+    virtual bool Forget() { return true; }
 };
 
 // A thread that has been started. Its end is waited for when the object goes.
@@ -89,9 +92,9 @@ public:
 
     // Null when none can be had.
     virtual std::unique_ptr<CEvent> CreateEvent() = 0;
-    // Null when the folder cannot be followed. A subtree is followed in those of its folders that lie on the
-    // same file system and for which FollowFolder has been called, before or since: watching every folder of
-    // a disk would take more memory than it is worth.
+    // Null when the folder cannot be followed. A subtree is followed in those folders of its file system, told
+    // by their paths, for which FollowFolder has been called, before or since: watching every folder of a disk
+    // would take more memory than it is worth. Changes count from that call on.
     virtual std::unique_ptr<CChangeNotification> FindFirst(const std::string& folder, WatchDepth depth,
                                                            unsigned filter) = 0;
     virtual std::unique_ptr<CFollowedFolder> FollowFolder(const std::string& folder) = 0;

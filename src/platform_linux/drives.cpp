@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform_linux/drives.h"
 
+#include "platform_linux/paths.h"
+
 #include <algorithm>
 #include <array>
 #include <set>
@@ -53,6 +55,17 @@ platform::DriveType DriveTypeOf(const std::string& root, const std::vector<Mount
     const auto found = std::find_if(table.rbegin(), table.rend(),
                                     [&](const MountEntry& entry) { return entry.mountPoint == root; });
     return found == table.rend() ? DriveType::noRoot : TypeOf(*found);
+}
+
+std::string MountPointIn(const std::vector<MountEntry>& table, const std::string& path)
+{
+    std::string nearest;
+    for (const MountEntry& entry : table) {
+        if (entry.mountPoint.size() > nearest.size() &&
+            (path == entry.mountPoint || IsBelow(path, entry.mountPoint)))
+            nearest = entry.mountPoint;
+    }
+    return nearest;
 }
 
 }  // namespace platform_linux

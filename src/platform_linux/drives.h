@@ -15,4 +15,8 @@ std::vector<std::string> DriveRoots(const std::vector<MountEntry>& table);
 // noRoot when nothing is mounted there.
 platform::DriveType DriveTypeOf(const std::string& root, const std::vector<MountEntry>& table);
 
+// The mount point at or above an absolute path, by its text: nothing is asked of the file systems, which may
+// never answer. Empty when the table has none.
+std::string MountPointIn(const std::vector<MountEntry>& table, const std::string& path);
+
 }  // namespace platform_linux

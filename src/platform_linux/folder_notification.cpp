@@ -45,7 +45,8 @@ void CInotifyQueue::RemoveWatch(int watch) const
 
 bool CInotifyQueue::Take()
 {
-    bool changed = false;
+    const std::lock_guard lock(taking);
+    bool changed = TakeOwn();
     for (int piece = 0; piece < kMostPieces && TakeSome(changed); ++piece) {
     }
     if (changed)
@@ -53,6 +54,15 @@ bool CInotifyQueue::Take()
     else
         quietUntil = Clock::now() + kGathering;
     return changed;
+}
+
+bool CInotifyQueue::Forget()
+{
+    const std::unique_lock lock(taking, std::try_to_lock);
+    bool changed = false;
+    for (int piece = 0; lock && piece < kMostPieces && TakeSome(changed); ++piece) {
+    }
+    return !lock || !IsLost();
 }
 
 bool CInotifyQueue::TakeSome(bool& changed)
@@ -81,6 +91,7 @@ int CInotifyQueue::QuietFor() const
 
 bool CInotifyQueue::FindNext()
 {
+    const std::lock_guard lock(taking);
     isArmed = true;
     quietUntil = Clock::now() + kGathering;
     return !IsLost();

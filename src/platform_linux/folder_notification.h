@@ -10,6 +10,7 @@
 #include "platform_linux/waitable.h"
 
 #include <chrono>
+#include <mutex>
 #include <string>
 
 namespace platform_linux
@@ -24,21 +25,26 @@ public:
     bool Take() override;
     int QuietFor() const override;
     bool FindNext() override;
+    bool Forget() override;
 
 protected:
     CInotifyQueue();
     bool IsOpen() const { return queue.IsOpen(); }
+    int Queue() const { return queue.Get(); }
     // The watch's number; -1 on failure. `mask` is inotify's.
     int AddWatch(const std::string& folder, std::uint32_t mask) const;
     void RemoveWatch(int watch) const;
 
 private:
     virtual bool IsChange(int watch, std::uint32_t mask, const char* name) = 0;
+    // What else there is to take; true when it counts as a change.
+    virtual bool TakeOwn() { return false; }
     virtual bool IsLost() const { return false; }
     bool TakeSome(bool& changed);
 
     using Clock = std::chrono::steady_clock;
     CHandle queue;
+    std::mutex taking;
     bool isArmed = true;
     Clock::time_point quietUntil;
 };

@@ -4,19 +4,51 @@
 
 #include <csignal>
 #include <cstdint>
+#include <memory>
 #include <sched.h>
 
 namespace platform_linux
 {
 
-CIdleThread::CIdleThread(std::function<int()> threadBody) : body(std::move(threadBody))
+namespace
+{
+
+// False when there can be no more threads.
+bool Create(pthread_t& thread, void* (*main)(void*), void* argument)
 {
     sigset_t all;
     sigset_t former;
     sigfillset(&all);
     pthread_sigmask(SIG_SETMASK, &all, &former);
-    isRunning = pthread_create(&thread, nullptr, Main, this) == 0;
+    const bool started = pthread_create(&thread, nullptr, main, argument) == 0;
     pthread_sigmask(SIG_SETMASK, &former, nullptr);
+    return started;
+}
+
+void* RunLoose(void* body)
+{
+    const std::unique_ptr<std::function<void()>> owned(static_cast<std::function<void()>*>(body));
+    (*owned)();
+    return nullptr;
+}
+
+}  // namespace
+
+bool StartLooseThread(std::function<void()> body)
+{
+    auto owned = std::make_unique<std::function<void()>>(std::move(body));
+    pthread_t thread{};
+    if (!Create(thread, RunLoose, owned.get()))
+        return false;
+    // The thread has it now.
+    static_cast<void>(owned.release());
+    pthread_detach(thread);
+    return true;
+}
+
+CIdleThread::CIdleThread(std::function<int()> threadBody) : body(std::move(threadBody))
+{
+    isRunning = Create(thread, Main, this);
 }
 
 void* CIdleThread::Main(void* self)

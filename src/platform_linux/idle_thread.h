@@ -16,9 +16,14 @@ class CIdleThread final : public platform::CThread
 {
 public:
     explicit CIdleThread(std::function<int()> threadBody);
-    ~CIdleThread() override { Join(); }
+    ~CIdleThread() override
+    {
+        Hurry();
+        Join();
+    }
     bool HasStarted() const { return isRunning; }
-    // Ordinary priority from now on, so that it comes to its end soon.
+    // Ordinary priority from now on, so that it comes to its end soon, where the system lets the user raise
+    // it (root and RLIMIT_NICE do). Where not, the kernel still gives idle threads their three thousandths.
     void Hurry() const;
     void Join();
 
@@ -29,5 +34,9 @@ private:
     pthread_t thread{};
     bool isRunning = false;
 };
+
+// Starts a thread that nobody waits for; it ends with the process, if not before. Like the idle ones it gets
+// no signals. False when it cannot be started.
+bool StartLooseThread(std::function<void()> body);
 
 }  // namespace platform_linux

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <future>
 #include <poll.h>
 
 namespace platform_linux
@@ -17,6 +18,9 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
+
+// For a share whose server is gone: a thread that waits for it cannot be stopped until then.
+constexpr std::chrono::seconds kPatience(5);
 
 class CFollowing final : public platform::CFollowedFolder
 {
@@ -31,8 +35,21 @@ public:
 
 private:
     std::shared_ptr<CFollowedFolders> folders;
-    CFollowedFolders::Key key;
+    FollowKey key;
 };
+
+// Null when the folder cannot be followed, or its file system does not answer in time.
+std::unique_ptr<platform::CChangeNotification> FollowInTime(const std::string& folder, unsigned filter)
+{
+    using Notification = std::unique_ptr<CFolderNotification>;
+    const auto making = std::make_shared<std::packaged_task<Notification()>>(
+        [folder, filter] { return std::make_unique<CFolderNotification>(folder, filter); });
+    std::future<Notification> made = making->get_future();
+    if (!StartLooseThread([making] { (*making)(); }) || made.wait_for(kPatience) != std::future_status::ready)
+        return nullptr;
+    Notification notification = made.get();
+    return notification->IsFollowing() ? std::move(notification) : nullptr;
+}
 
 // One wait for several objects.
 class CWait
@@ -93,8 +110,7 @@ CLinuxChangeNotifications::FindFirst(const std::string& folder, platform::WatchD
         auto notification = std::make_unique<CSubtreeNotification>(folder, followed);
         return notification->IsFollowing() ? std::move(notification) : nullptr;
     }
-    auto notification = std::make_unique<CFolderNotification>(folder, filter);
-    return notification->IsFollowing() ? std::move(notification) : nullptr;
+    return FollowInTime(folder, filter);
 }
 
 std::unique_ptr<platform::CFollowedFolder> CLinuxChangeNotifications::FollowFolder(const std::string& folder)

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // CLinuxChangeNotifications: change notifications on inotify, events on eventfd, waits on poll.
 //
+// A file system that does not answer (a share whose server is gone) keeps nobody waiting but threads that can
+// be left behind: FollowFolder and FindFirst for a subtree return at once, FindFirst for a folder in seconds.
+//
 // A folder costs one inotify instance (the kernel allows 128 for a user, by default) and a watch for itself
 // and each folder above it; a subtree one instance and a watch for each of its followed folders.
 #pragma once

@@ -48,7 +48,7 @@ CFolderTree* CLeftView::Tree() const
     return second ? folderTree : deviceTree;
 }
 
-std::vector<CFolderTree*> CLeftView::Trees() const
+std::vector<CIEShellTreeCtrl*> CLeftView::Trees() const
 {
     return folderTree ? std::vector{deviceTree, folderTree} : std::vector{deviceTree};
 }

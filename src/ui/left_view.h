@@ -4,8 +4,8 @@
 #pragma once
 
 #include "app/left_pane.h"
-#include "ui/folder_tree.h"
 #include "ui/tab_window.h"
+#include "ui/watch/ie_shell_tree_ctrl.h"
 
 #include <QStackedWidget>
 
@@ -34,7 +34,7 @@ public:
     // Takes in which volumes are mounted now.
     void UpdateVolumes(const std::vector<platform::Volume>& volumes);
     // The trees made so far.
-    std::vector<CFolderTree*> Trees() const;
+    std::vector<CIEShellTreeCtrl*> Trees() const;
 
 Q_SIGNALS:
     void FolderChosen(const std::string& path);
@@ -50,10 +50,10 @@ private:
     app::CLeftPane state;
     TabWindow* tabBar;
     QStackedWidget* panels;
-    CFolderTree* deviceTree;
-    CFolderTree* folderTree = nullptr;  // made when first shown
-    QWidget* searchPanel = nullptr;     // made when first shown
-    std::string chosen;                 // the folder told of last
+    CIEShellTreeCtrl* deviceTree;
+    CIEShellTreeCtrl* folderTree = nullptr;  // made when first shown
+    QWidget* searchPanel = nullptr;          // made when first shown
+    std::string chosen;                      // the folder told of last
 };
 
 }  // namespace ui

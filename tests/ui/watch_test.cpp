@@ -127,6 +127,24 @@ TEST_F(WatchTest, TheListSaysWhenItNoLongerFollowsAndRefreshStillWorks)
     EXPECT_TRUE(Shows("b.jpg"));
 }
 
+TEST_F(WatchTest, WhatIsSwallowedAsOwnWorkIsNeverMissed)
+{
+    Open();
+    ASSERT_TRUE(Says({}));
+
+    List().Follower().SwallowNextChange();
+    Add("swallowed.jpg");
+    EXPECT_TRUE(Shows("swallowed.jpg")) << "though the reading after the work did not come";
+
+    for (int i = 0; i < 20; ++i) {
+        List().Follower().SwallowNextChange();
+        Add("own" + std::to_string(i) + ".jpg");
+        List().Refresh();
+        Add("other" + std::to_string(i) + ".jpg");
+        EXPECT_TRUE(Shows("other" + std::to_string(i) + ".jpg"));
+    }
+}
+
 TEST_F(WatchTest, TheTreeShowsNewFoldersAndKeepsItsState)
 {
     fs::create_directories(folder + "/old/below");

@@ -219,12 +219,20 @@ TEST_F(Following, ASubtreeTellsOfFoldersInTheFoldersFollowed)
         return IsSignalled(*notification, 60);
     };
 
+    // The folders are watched, or seen to have changed meanwhile, a moment later.
+    fs::create_directory(folder + "/early");
+    EXPECT_TRUE(IsSignalled(*notification, kLong));
+    while (signalledBy([] {})) {
+    }
+
     EXPECT_TRUE(signalledBy([&] { fs::create_directory(folder + "/new"); }));
     EXPECT_TRUE(signalledBy([&] { fs::rename(folder + "/new", folder + "/named"); }));
     EXPECT_TRUE(signalledBy([&] { fs::remove(folder + "/named"); }));
     EXPECT_FALSE(signalledBy([&] { support::WriteBytes(folder + "/b.jpg", "1"); }));
     EXPECT_FALSE(signalledBy([&] { fs::create_directory(folder + "/sub/deep"); }));
     auto deep = changes.FollowFolder(folder + "/sub");
+    while (signalledBy([] {})) {
+    }
     EXPECT_TRUE(signalledBy([&] { fs::create_directory(folder + "/sub/deeper"); }));
     deep.reset();
     second.reset();
@@ -376,6 +384,9 @@ TEST(Drives, AreTheFileSystemsThatHoldFilesByTheirKind)
     }
     EXPECT_EQ(found, expected);
     EXPECT_EQ(platform_linux::DriveTypeOf("/nowhere", table), DriveType::noRoot);
+    EXPECT_EQ(platform_linux::MountPointIn(table, "/home/u/nas"), "/home/u/nas");
+    EXPECT_EQ(platform_linux::MountPointIn(table, "/home/u/nasty/x"), "/home");
+    EXPECT_EQ(platform_linux::MountPointIn(table, "/homes"), "/");
 
     platform_linux::CLinuxChangeNotifications changes;
     std::string roots;

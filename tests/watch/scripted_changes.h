@@ -42,8 +42,10 @@ public:
     }
     std::unique_ptr<platform::CFollowedFolder> FollowFolder(const std::string&) override { return nullptr; }
     std::uint32_t WaitForMultipleObjects(std::span<platform::CWaitable* const> objects, int) override;
-    std::size_t GetLogicalDriveStrings(std::size_t, std::string& roots) override
+    std::size_t GetLogicalDriveStrings(std::size_t room, std::string& roots) override
     {
+        if (needed > room)
+            return needed;
         for (const auto& [root, type] : drives)
             roots += root + '\0';
         roots += '\0';

@@ -156,9 +156,6 @@ TEST_F(Watchers, ChangesHeldBackAreToldOfOnce)
 
 TEST_F(Watchers, TheTreesWatchersFollowLocalNetworkAndRamDrives)
 {
-    changes.drives = {{"/", DriveType::fixed},          {"/cd", DriveType::optical},
-                      {"/net", DriveType::remote},      {"/ram", DriveType::ramDisk},
-                      {"/stick", DriveType::removable}, {"/what", DriveType::unknown}};
     changes.last = 1;
     changes.refused = "/net";
     changes.script = "0n0" + std::string(9, 'f') + "t" + std::string(10, 'f');
@@ -167,12 +164,16 @@ TEST_F(Watchers, TheTreesWatchersFollowLocalNetworkAndRamDrives)
     {
         browser::CTreeWatch watch(window);
         changes.actions = {{'n', [&] { watch.SwallowNextChange(); }}};
-        for (const std::size_t needed : {std::size_t{0}, std::size_t{261}}) {
-            changes.needed = needed;
+        const std::string warning = "Warning: CreateFileChangeThreads failed in GetLogicalDriveStrings\n";
+        for (const auto& [needed, trace] : {std::pair{0, warning}, {260, std::string()}}) {
+            changes.needed = static_cast<std::size_t>(needed);
             watch.CreateFileChangeThreads();
-            EXPECT_EQ(Trace(), "Warning: CreateFileChangeThreads failed in GetLogicalDriveStrings\n");
+            EXPECT_EQ(Trace(), trace);
         }
-        changes.needed = 260;
+        changes.needed = 261;
+        changes.drives = {{"/", DriveType::fixed},          {"/cd", DriveType::optical},
+                          {"/net", DriveType::remote},      {"/ram", DriveType::ramDisk},
+                          {"/stick", DriveType::removable}, {"/what", DriveType::unknown}};
         watch.SetWatching(false);
         watch.CreateFileChangeThreads();
         EXPECT_EQ(Trace(), "");
@@ -180,8 +181,9 @@ TEST_F(Watchers, TheTreesWatchersFollowLocalNetworkAndRamDrives)
 
         watch.CreateFileChangeThreads();
 
-        EXPECT_EQ(Trace(), "Creating directory thread handler for /\n[follow / and below, 2]\n"
-                           "TreeControl waiting for 2 multiple objects\n" +
+        EXPECT_EQ(Trace(), warning +
+                               "Creating directory thread handler for /\n[follow / and below, 2]\n"
+                               "TreeControl waiting for 2 multiple objects\n" +
                                fired + "[post 36774]\n" + fired +
                                "but not sending as refresh disallowed\nRefresh is now allowed\n" +
                                Times(19, failed) +

@@ -42,6 +42,17 @@ std::string FolderPath(const std::string& path)
     return std::string(browser::FolderOf(path));
 }
 
+// Whether the job makes, changes or takes away files of that folder.
+bool WorksIn(const browser::FileJobRequest& request, const std::string& folder)
+{
+    const auto isHere = [&folder](const std::string& path) { return FolderPath(path) == folder; };
+    return request.target == folder || isHere(request.target) ||
+           std::ranges::any_of(request.sources, isHere) ||
+           std::ranges::any_of(request.record.steps, [&isHere](const browser::UndoStep& step) {
+               return isHere(step.path) || isHere(step.origin);
+           });
+}
+
 }  // namespace
 
 CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow)
@@ -282,6 +293,10 @@ void CFileActions::Start(browser::FileJobRequest request)
     const bool fromList = takesAway && request.sources == list.SelectedPaths();
     asked.push_back({request.sources, list.List().Folder(),
                      fromList ? list.NameAfterSelection() : std::string(), request.record});
+    if (WorksIn(request, list.List().Folder()))
+        list.Follower().SwallowNextChange();
+    for (CIEShellTreeCtrl* tree : left.Trees())
+        tree->SwallowNextChange();
     jobs.Start(std::move(request));
 }
 
@@ -359,10 +374,8 @@ void CFileActions::RefreshTrees(const browser::FileJobReport& report, const Aske
             folders.insert(FolderPath(step.origin));
         }
     }
-    for (CFolderTree* tree : left.Trees()) {
-        for (const std::string& folder : folders)
-            tree->RefreshFolder(folder);
-    }
+    for (CIEShellTreeCtrl* tree : left.Trees())
+        tree->RefreshFolders(folders);
 }
 
 void CFileActions::AskAboutNoTrash(const browser::FileJobReport& report)

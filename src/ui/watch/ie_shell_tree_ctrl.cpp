@@ -7,7 +7,7 @@ namespace ui
 
 CIEShellTreeCtrl::CIEShellTreeCtrl(std::vector<app::Place> places, const QString& name, QWidget* parent)
     : CFolderTree(std::move(places), name, parent), port([this](std::uint32_t message, std::string&) {
-          if (message == browser::kTreeRefreshMessage)
+          if (message == browser::kTreeRefreshMessage && !ownChange.HoldsBack())
               refresh.Request();
           return 0;
       }),
@@ -25,6 +25,15 @@ CIEShellTreeCtrl::~CIEShellTreeCtrl()
 {
     port.Close();
     watch.StopWatchers();
+}
+
+void CIEShellTreeCtrl::RefreshFolders(const std::set<std::string>& changed)
+{
+    // Others may have changed other folders meanwhile.
+    if (ownChange.End())
+        return refresh.Request();
+    for (const std::string& folder : changed)
+        RefreshFolder(folder);
 }
 
 }  // namespace ui

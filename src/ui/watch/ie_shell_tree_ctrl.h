@@ -9,7 +9,10 @@
 #include "browser/tree_watch.h"
 #include "ui/folder_tree.h"
 #include "ui/watch/message_port.h"
+#include "ui/watch/own_change.h"
 #include "ui/watch/paced_refresh.h"
+
+#include <set>
 
 namespace ui
 {
@@ -22,12 +25,15 @@ public:
     CIEShellTreeCtrl(std::vector<app::Place> places, const QString& name, QWidget* parent = nullptr);
     ~CIEShellTreeCtrl() override;
 
-    // The tree's next change to a folder is its own, and it reads anew by itself.
-    void SwallowNextChange() { watch.SwallowNextChange(); }
+    // The next changes to folders are the program's own doing; RefreshFolders follows (see COwnChange).
+    void SwallowNextChange() { ownChange.Begin(); }
+    // Reads these folders anew where the tree shows them, after the program's own work on them.
+    void RefreshFolders(const std::set<std::string>& changed);
 
 private:
     CPacedRefresh refresh;
     CMessagePort port;
+    COwnChange<browser::CTreeWatch> ownChange{watch, refresh};
     browser::CTreeWatch watch;  // goes first
 };
 

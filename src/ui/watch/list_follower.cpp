@@ -38,6 +38,10 @@ CListFollower::~CListFollower()
 void CListFollower::Begin(const std::string& path)
 {
     watch.SetRefreshing(true);
+    // The reading shows all that has happened until now.
+    watch.ForgetChanges();
+    ownChange.End();
+    port.Forget(browser::kListRefreshMessage);
     refresh.Begin();
     const bool isOther = std::exchange(folder, path) != path;
     folderTime = TimeOf(folder);
@@ -55,10 +59,11 @@ int CListFollower::OnMessage(std::uint32_t message, std::string& text)
 {
     switch (message) {
     case browser::kListRefreshMessage:
-        refresh.Request();
+        if (!ownChange.HoldsBack())
+            refresh.Request();
         return 1;
     case browser::kListWatchPathMessage:
-        text = browser::IsSpecialPlace(folder) ? std::string() : folder;
+        text = MayChange() ? folder : std::string();
         return 1;
     case browser::kListFollowingMessage:
         OnFollowing();
@@ -68,12 +73,18 @@ int CListFollower::OnMessage(std::uint32_t message, std::string& text)
     }
 }
 
+// A special place holds no files, so that nothing happens in it.
+bool CListFollower::MayChange() const
+{
+    return !folder.empty() && !browser::IsSpecialPlace(folder);
+}
+
 void CListFollower::OnFollowing()
 {
     const browser::Following following = watch.CheckFollowing();
     if (following == browser::Following::unknown)
         return;
-    const bool lost = following == browser::Following::no;
+    const bool lost = following == browser::Following::no && MayChange();
     if (std::exchange(isLost, lost) != lost)
         Q_EMIT LostChanged();
     // What happened between the reading and now has not been told.

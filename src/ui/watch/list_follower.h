@@ -9,6 +9,7 @@
 #include "browser/list_watch.h"
 #include "platform/types.h"
 #include "ui/watch/message_port.h"
+#include "ui/watch/own_change.h"
 #include "ui/watch/paced_refresh.h"
 
 namespace ui
@@ -27,8 +28,8 @@ public:
     void End();
     // The list must not be disturbed now: RefreshDue comes again in a moment.
     void Postpone() { refresh.Postpone(); }
-    // The list's next change to the folder is its own, and it reads anew by itself.
-    void SwallowNextChange() { watch.SwallowNextChange(); }
+    // The next changes to the folder are the list's own doing, and it reads anew by itself (see COwnChange).
+    void SwallowNextChange() { ownChange.Begin(); }
     // Whether changes in the folder on show will go unnoticed.
     bool IsLost() const { return isLost; }
 
@@ -40,12 +41,14 @@ Q_SIGNALS:
 private:
     int OnMessage(std::uint32_t message, std::string& text);
     void OnFollowing();
+    bool MayChange() const;
 
     std::string folder;
     platform::FileTime folderTime = 0;  // when the list began to read it
     bool isLost = false;
     CPacedRefresh refresh;
     CMessagePort port;
+    COwnChange<browser::CListWatch> ownChange{watch, refresh};
     browser::CListWatch watch;  // goes first
 };
 

@@ -29,11 +29,12 @@ struct CMessagePort::Sent {
 class CMessagePort::CPosted : public QEvent
 {
 public:
-    CPosted(std::uint32_t number, std::shared_ptr<Sent> sentMessage)
-        : QEvent(EventType()), message(number), sent(std::move(sentMessage))
+    CPosted(std::uint32_t number, std::uint64_t place, std::shared_ptr<Sent> sentMessage)
+        : QEvent(EventType()), message(number), post(place), sent(std::move(sentMessage))
     {
     }
     const std::uint32_t message;
+    const std::uint64_t post;
     const std::shared_ptr<Sent> sent;  // null when nobody waits for an answer
 };
 
@@ -45,7 +46,21 @@ CMessagePort::CMessagePort(Handler messageHandler) : handler(std::move(messageHa
 
 void CMessagePort::PostMessage(std::uint32_t message)
 {
-    QCoreApplication::postEvent(this, new CPosted(message, nullptr));
+    const std::lock_guard lock(mutex);
+    QCoreApplication::postEvent(this, new CPosted(message, ++posts, nullptr));
+}
+
+void CMessagePort::Forget(std::uint32_t message)
+{
+    const std::lock_guard lock(mutex);
+    forgotten[message] = posts;
+}
+
+bool CMessagePort::IsForgotten(const CPosted& posted)
+{
+    const std::lock_guard lock(mutex);
+    const auto found = forgotten.find(posted.message);
+    return !posted.sent && found != forgotten.end() && posted.post <= found->second;
 }
 
 int CMessagePort::SendMessage(std::uint32_t message, std::string& text)
@@ -54,7 +69,7 @@ int CMessagePort::SendMessage(std::uint32_t message, std::string& text)
     std::unique_lock lock(mutex);
     if (isClosed)
         return 0;
-    QCoreApplication::postEvent(this, new CPosted(message, sent));
+    QCoreApplication::postEvent(this, new CPosted(message, ++posts, sent));
     answered.wait(lock, [&] { return sent->isDone || isClosed; });
     if (!sent->isDone)
         return 0;
@@ -74,6 +89,8 @@ bool CMessagePort::event(QEvent* event)
     if (event->type() != EventType())
         return QObject::event(event);
     const auto& posted = static_cast<const CPosted&>(*event);
+    if (IsForgotten(posted))
+        return true;
     std::string text;
     const int answer = handler(posted.message, text);
     if (posted.sent) {

@@ -11,6 +11,7 @@
 #include <QObject>
 
 #include <condition_variable>
+#include <map>
 #include <mutex>
 
 namespace ui
@@ -29,6 +30,8 @@ public:
 
     void PostMessage(std::uint32_t message) override;
     int SendMessage(std::uint32_t message, std::string& text) override;
+    // Messages of that number that were posted up to now are not handled any more.
+    void Forget(std::uint32_t message);
     // Sent messages, also those that wait for their answer, are answered with 0 from now on. To be called
     // before the port's thread waits for one that may be sending.
     void Close();
@@ -39,11 +42,14 @@ protected:
 private:
     struct Sent;
     class CPosted;
+    bool IsForgotten(const CPosted& posted);
 
     const Handler handler;
     std::mutex mutex;
     std::condition_variable answered;
     bool isClosed = false;
+    std::uint64_t posts = 0;
+    std::map<std::uint32_t, std::uint64_t> forgotten;  // posts up to then, by message
 };
 
 }  // namespace ui
