@@ -219,4 +219,8 @@ TEST_F(SkinTest, TheFontOfTheSkinInUseIsTheProgramsAndWhatItDoesNotNameIsTheDesk
     const ui::CTheme light;
     EXPECT_EQ(QApplication::font().family(), desktop.family());
     EXPECT_EQ(QApplication::font().pointSizeF(), desktop.pointSizeF());
+
+    folder.Make("skin/default/font.ini", "[Font]\nfacename=" + std::string(300, 'a') + "\n");
+    app::ReadSkinFont(Skin());
+    EXPECT_EQ(utility.ql_GetLogfont("", 0).faceName, std::string(260, 'a'));
 }
