@@ -31,20 +31,6 @@ std::size_t FormatSize(unsigned format)
     return format < std::size(kSizes) ? kSizes[format] : 0;
 }
 
-unsigned CExifBytes::Get16(std::size_t offset) const
-{
-    const unsigned first = At(offset);
-    const unsigned second = At(offset + 1);
-    return order == ByteOrder::motorola ? first << 8 | second : second << 8 | first;
-}
-
-std::uint32_t CExifBytes::Get32(std::size_t offset) const
-{
-    const std::uint32_t first = Get16(offset);
-    const std::uint32_t second = Get16(offset + 2);
-    return order == ByteOrder::motorola ? first << 16 | second : second << 16 | first;
-}
-
 template <typename Float> double CExifBytes::Native(std::size_t offset) const
 {
     std::uint8_t stored[sizeof(Float)];

@@ -27,8 +27,18 @@ public:
     std::uint8_t At(std::size_t offset) const { return offset < bytes.size() ? bytes[offset] : 0; }
     void Clear(std::size_t offset) { bytes[offset] = 0; }
     const std::uint8_t* Address(std::size_t offset) const { return bytes.data() + offset; }
-    unsigned Get16(std::size_t offset) const;
-    std::uint32_t Get32(std::size_t offset) const;
+    unsigned Get16(std::size_t offset) const
+    {
+        const unsigned first = At(offset);
+        const unsigned second = At(offset + 1);
+        return order == ByteOrder::motorola ? first << 8 | second : second << 8 | first;
+    }
+    std::uint32_t Get32(std::size_t offset) const
+    {
+        const std::uint32_t first = Get16(offset);
+        const std::uint32_t second = Get16(offset + 2);
+        return order == ByteOrder::motorola ? first << 16 | second : second << 16 | first;
+    }
     std::int32_t GetSigned32(std::size_t offset) const { return static_cast<std::int32_t>(Get32(offset)); }
     // The value at `offset` by its format code; 0 for texts, codes without a number and division by 0.
     // Floating point numbers are taken in the machine's own byte order.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 namespace photo
 {
@@ -18,10 +19,7 @@ constexpr std::uint64_t RoundUp(std::uint64_t offset)
 
 }  // namespace
 
-CSectionInput::CSectionInput(platform::CFile& opened) : file(opened)
-{
-    file.ReadOnlyWhatIsAsked();
-}
+CSectionInput::CSectionInput(platform::CFile& opened) : file(opened) {}
 
 void CSectionInput::Fill(std::size_t length)
 {
@@ -30,6 +28,10 @@ void CSectionInput::Fill(std::size_t length)
     }
     windowStart = at / kBlock * kBlock;
     const auto wanted = static_cast<std::size_t>(RoundUp(at + length) - windowStart);
+    if (windowStart + wanted > asked && !restricted) {
+        file.ReadOnlyWhatIsAsked();
+        restricted = true;
+    }
     if (wanted > windowRoom) {
         window = std::make_unique_for_overwrite<std::uint8_t[]>(wanted);
         windowRoom = wanted;
@@ -75,24 +77,70 @@ bool CSectionInput::Skip(std::size_t length)
     return Byte() >= 0;
 }
 
-void CSectionInput::Foresee()
+void CSectionInput::AskFor(std::uint64_t end)
 {
-    // What follows a camera's EXIF section up to the picture's data: two quantisation tables, the frame
-    // header, four Huffman tables and the scan header.
-    constexpr std::uint64_t kTables = 640;
-    Fill(1);
-    std::size_t section = 2;
-    while (section + 4 <= windowLength && window[section] == 0xFF) {
-        const std::size_t length = static_cast<std::size_t>(window[section + 2]) << 8 | window[section + 3];
-        const std::size_t next = section + 2 + length;
-        if (window[section + 1] == 0xDA || length < 2) {
-            return;
+    const std::uint64_t wanted = RoundUp(end);
+    file.WillNeed(asked, wanted - asked);
+    asked = wanted;
+}
+
+void CSectionInput::Extend()
+{
+    if (ended || asked <= windowLength) {
+        return;
+    }
+    const auto wanted = static_cast<std::size_t>(asked);
+    auto larger = std::make_unique_for_overwrite<std::uint8_t[]>(wanted);
+    std::copy_n(window.get(), windowLength, larger.get());
+    window = std::move(larger);
+    windowRoom = wanted;
+    const std::span<std::uint8_t> rest = std::span(window.get(), wanted).subspan(windowLength);
+    windowLength += file.ReadAt(windowLength, std::as_writable_bytes(rest));
+    ended = windowLength < wanted;
+}
+
+bool CSectionInput::IsWanted(std::size_t head) const
+{
+    constexpr std::string_view kExif = "Exif";
+    const int marker = window[head + 1];
+    const bool isOthers = marker == 0xE1 && head + 4 + kExif.size() <= windowLength &&
+                          !std::equal(kExif.begin(), kExif.end(), window.get() + head + 4);
+    return marker != 0xE0 && !isOthers;
+}
+
+void CSectionInput::ForeseeStart()
+{
+    AskFor(kBlock);
+}
+
+void CSectionInput::ForeseeMore()
+{
+    constexpr std::size_t kHead = 4;  // FF, marker, length
+    constexpr int kStartOfScan = 0xDA;
+    if (foreseen) {
+        return;
+    }
+    Extend();
+    std::size_t need = nextHead + kHead;
+    while (need <= windowLength && !foreseen) {
+        const std::size_t length = static_cast<std::size_t>(window[nextHead + 2]) << 8 | window[nextHead + 3];
+        const std::size_t next = nextHead + 2 + length;
+        if (window[nextHead] != 0xFF || length < 2) {
+            foreseen = true;
+        } else if (window[nextHead + 1] == kStartOfScan) {
+            need = next;
+            foreseen = true;
+        } else if (next + kHead > windowLength && !IsWanted(nextHead)) {
+            file.WillNeed(next / kBlock * kBlock, kBlock);
+            foreseen = true;
+        } else {
+            nextHead = next;
+            need = next + kHead;
         }
-        if (next + 4 > windowLength) {
-            file.WillNeed(windowLength, RoundUp(next + kTables) - windowLength);
-            return;
-        }
-        section = next;
+    }
+    foreseen = foreseen || ended;
+    if (need > asked && !ended) {
+        AskFor(need);
     }
 }
 

@@ -21,13 +21,15 @@ void CSectionReadAhead::LookAhead()
     for (; begun < std::min(paths.size(), current + kAhead); ++begun) {
         ahead.push_back(Open(paths[begun]));
         if (ahead.back() && begun != current) {
-            ahead.back()->file->WillNeed(0, CSectionInput::kBlock);
+            ahead.back()->input.ForeseeStart();
         }
     }
-    // The first block of a file half-way ahead has come by now.
-    for (; foreseen < std::min(paths.size(), current + kAhead / 2); ++foreseen) {
-        if (ahead[foreseen - current] && foreseen != current) {
-            ahead[foreseen - current]->input.Foresee();
+    for (std::size_t i = 0; i < kStages; ++i) {
+        const std::size_t end = std::min(paths.size(), current + kAhead - (i + 1) * kStageLength);
+        for (; foreseen[i] < end; ++foreseen[i]) {
+            if (ahead[foreseen[i] - current] && foreseen[i] != current) {
+                ahead[foreseen[i] - current]->input.ForeseeMore();
+            }
         }
     }
 }

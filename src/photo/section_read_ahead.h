@@ -3,13 +3,14 @@
 // CSectionReadAhead: opens photos one after the other, while the disk already fetches what the reader will
 // need of those that follow.
 //
-// A file's first block is asked for some dozens of files ahead, and the rest of its sections once that block
-// tells how far they reach. At most kAhead files are open at a time. What cannot be opened ahead of its turn
-// is tried again when its turn comes.
+// A file's first block is asked for kAhead files ahead, and the further ones, at three stages, once those
+// before them tell how far the sections reach. At most kAhead files are open at a time. What cannot be opened
+// ahead of its turn is tried again when its turn comes.
 #pragma once
 
 #include "photo/section_input.h"
 
+#include <array>
 #include <deque>
 #include <memory>
 #include <string>
@@ -30,6 +31,9 @@ public:
     CSectionInput* Next();
 
 private:
+    static constexpr std::size_t kStages = 3;
+    static constexpr std::size_t kStageLength = kAhead / (kStages + 1);
+
     struct OpenFile {
         explicit OpenFile(std::unique_ptr<platform::CFile> opened) : file(std::move(opened)), input(*file) {}
         std::unique_ptr<platform::CFile> file;
@@ -39,9 +43,10 @@ private:
     void LookAhead();
 
     std::vector<std::string> paths;
-    std::size_t current = 0;   // index of the file that Next gives out
-    std::size_t begun = 0;     // files before this index have been opened, or could not be
-    std::size_t foreseen = 0;  // files before this index have had the rest of their sections asked for
+    std::size_t current = 0;  // index of the file that Next gives out
+    std::size_t begun = 0;    // files before this index have been opened, or could not be
+    // Of each stage, the index before which all files have been through it.
+    std::array<std::size_t, kStages> foreseen{};
     std::deque<std::unique_ptr<OpenFile>> ahead;  // from `current` on
     std::unique_ptr<OpenFile> given;
 };

@@ -140,7 +140,9 @@ CLinuxFile::CLinuxFile(CHandle opened, Writing writing) : handle(std::move(opene
 {
     if (writing == Writing::fromStartToEnd)
         writeBack.emplace(handle.Get(), 0);
-    (void)Stamp();
+    // From here on, MarkChanged knows the time before any write.
+    if (writing != Writing::none)
+        (void)Stamp();
 }
 
 std::size_t CLinuxFile::ReadAt(std::uint64_t offset, std::span<std::byte> buffer)

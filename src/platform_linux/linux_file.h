@@ -34,7 +34,7 @@ private:
     off_t begun;
 };
 
-enum class Writing { anywhere, fromStartToEnd };
+enum class Writing { none, anywhere, fromStartToEnd };
 
 class CLinuxFile final : public platform::CFile
 {

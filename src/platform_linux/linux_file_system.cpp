@@ -52,7 +52,8 @@ private:
 std::unique_ptr<platform::CFile> CLinuxFileSystem::Open(const std::string& path, platform::OpenMode mode)
 {
     CHandle handle = OpenRegular(path, mode);
-    return handle.IsOpen() ? std::make_unique<CLinuxFile>(std::move(handle)) : nullptr;
+    const Writing writing = mode == platform::OpenMode::read ? Writing::none : Writing::anywhere;
+    return handle.IsOpen() ? std::make_unique<CLinuxFile>(std::move(handle), writing) : nullptr;
 }
 
 std::optional<platform::FileFacts> CLinuxFileSystem::FindFirstFile(const std::string& path)
