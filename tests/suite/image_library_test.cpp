@@ -113,6 +113,37 @@ TEST_F(CImageTest, ExifValuesComeRawInNativeByteOrder)
     EXPECT_FALSE(CImage(Sample("colour.jpg")).GetPropertyItem(platform::kTagDateTimeOriginal));
 }
 
+TEST_F(CImageTest, ExifValuesOfATiffAreFoundWhereverItsDirectoriesStand)
+{
+    // Puts a directory with one entry more, and an EXIF directory, behind the picture.
+    std::string tiff = ReadBytes(Sample("lzw.tif"));
+    const auto bytes = [](std::uint32_t number, std::size_t length) {
+        return std::string(reinterpret_cast<const char*>(&number), length);
+    };
+    std::uint32_t first = 0;
+    std::uint16_t count = 0;
+    std::memcpy(&first, tiff.data() + 4, sizeof first);
+    std::memcpy(&count, tiff.data() + first, sizeof count);
+    const std::string entries = tiff.substr(first + 2, count * 12U);
+    tiff.resize((tiff.size() + 1) / 2 * 2);
+    const auto main = static_cast<std::uint32_t>(tiff.size());
+    const std::uint32_t exif = main + 2 + (count + 1U) * 12 + 4;
+    tiff.replace(4, 4, bytes(main, 4));
+    tiff += bytes(count + 1U, 2) + entries + bytes(0x8769, 2) + bytes(4, 2) + bytes(1, 4) + bytes(exif, 4) +
+            bytes(0, 4);
+    tiff += bytes(2, 2) + bytes(36867, 2) + bytes(2, 2) + bytes(20, 4) + bytes(exif + 30, 4) +
+            bytes(0x9207, 2) + bytes(3, 2) + bytes(9000, 4) + bytes(8, 4) + bytes(0, 4) +
+            "2004:05:06 07:08:09" + '\0';
+
+    const CImage image(folder.Make("dated.tif", tiff));
+
+    const auto date = image.GetPropertyItem(platform::kTagDateTimeOriginal);
+    ASSERT_TRUE(date);
+    EXPECT_STREQ(reinterpret_cast<const char*>(date->value.data()), "2004:05:06 07:08:09");
+    EXPECT_FALSE(image.GetPropertyItem(0x9207));  // longer than the file
+    EXPECT_TRUE(image.GetPropertyItem(0x0100));
+}
+
 TEST_F(CImageTest, WhatIsNoPictureHasNoSize)
 {
     const std::string jpeg = ReadBytes(Sample("colour.jpg"));

@@ -4,6 +4,7 @@
 
 #include "suite/image/area_scaler.h"
 #include "suite/image/bitmap_tools.h"
+#include "suite/image/formats/tiff_items.h"
 
 #include <QSize>
 #include <algorithm>
@@ -149,6 +150,11 @@ platform::BitmapHandle CQtPictureSource::Render(int width, int height)
         return nullptr;
     return std::make_shared<platform::Bitmap>(
         Upright(BitmapFromPremultiplied(target, Scaled(image, target)), orientation));
+}
+
+std::optional<platform::PropertyItem> CQtPictureSource::GetPropertyItem(std::uint16_t tag)
+{
+    return kind == PictureKind::tiff ? ReadTiffItem(input, tag) : std::nullopt;
 }
 
 }  // namespace suite

@@ -26,8 +26,8 @@ public:
     int Width() const override { return size.width; }
     int Height() const override { return size.height; }
     platform::BitmapHandle Render(int width, int height) override;
-    // The values of these formats are not read.
-    std::optional<platform::PropertyItem> GetPropertyItem(std::uint16_t) override { return std::nullopt; }
+    // Of these formats, only the values of TIFF are read.
+    std::optional<platform::PropertyItem> GetPropertyItem(std::uint16_t tag) override;
 
 private:
     CQtPictureSource(CInputFile opened, PictureKind pictureKind) : kind(pictureKind), input(std::move(opened))
