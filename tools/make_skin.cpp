@@ -50,6 +50,9 @@ public:
 
     void MakePictures()
     {
+        // Those of an earlier list do not stay behind.
+        for (QDirIterator at(output, {"*.png"}, QDir::Files, QDirIterator::Subdirectories); at.hasNext();)
+            QFile::remove(at.next());
         static const QRegularExpression line("^(\\w+) (\\d+) ([^=]+) = (\\S.*)$");
         for (const QString& text : QString::fromUtf8(ReadAll(source + "/pictures.txt")).split('\n')) {
             if (text.isEmpty() || text.startsWith('#'))
