@@ -25,12 +25,6 @@ enum Format : unsigned {
 
 }  // namespace
 
-std::size_t FormatSize(unsigned format)
-{
-    constexpr std::size_t kSizes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
-    return format < std::size(kSizes) ? kSizes[format] : 0;
-}
-
 template <typename Float> double CExifBytes::Native(std::size_t offset) const
 {
     std::uint8_t stored[sizeof(Float)];

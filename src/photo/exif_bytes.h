@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
 
 namespace photo
@@ -15,7 +16,11 @@ namespace photo
 enum class ByteOrder { intel, motorola };
 
 // The size of a value's unit by its TIFF format code, 0 to 12. Code 0 stands for a value without bytes.
-std::size_t FormatSize(unsigned format);
+inline std::size_t FormatSize(unsigned format)
+{
+    constexpr std::uint8_t kSizes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
+    return format < std::size(kSizes) ? kSizes[format] : 0;
+}
 
 class CExifBytes
 {

@@ -124,13 +124,14 @@ CExifReader::Step CExifReader::TakeBytes(CSectionInput& input, Section& section)
     std::size_t have = kLengthBytes;
     bool isWanted = section.marker != kApplication0 && (section.marker != kComment || !hasComment);
     if (isWanted) {
-        section.bytes.reset(new (std::nothrow) std::uint8_t[length + kPastEnd]());
+        section.bytes.reset(new (std::nothrow) std::uint8_t[length + kPastEnd]);
         if (!section.bytes) {
             Fail("Could not allocate memory");
             return Step::failed;
         }
         section.bytes[0] = static_cast<std::uint8_t>(length >> 8);
         section.bytes[1] = static_cast<std::uint8_t>(length);
+        std::fill_n(section.bytes.get() + length, kPastEnd, std::uint8_t{0});
     }
     bool isWhole = true;
     if (section.marker == kApplication1) {

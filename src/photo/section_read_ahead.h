@@ -22,7 +22,7 @@ namespace photo
 class CSectionReadAhead
 {
 public:
-    static constexpr std::size_t kAhead = 64;
+    static constexpr std::size_t kAhead = 128;
 
     explicit CSectionReadAhead(std::vector<std::string> files) : paths(std::move(files)) {}
 
