@@ -91,7 +91,7 @@ private:
 
     // Of the EXIF block being decoded. Its offsets count from the TIFF header.
     CExifBytes block;
-    std::int64_t blockLength = 0;  // as told, two more than the section holds
+    std::int64_t blockLength = 0;  // two more than the section holds
     int entriesLeft = 0;
     std::vector<std::size_t> openDirectories;
 };

@@ -77,7 +77,7 @@ TEST(ExifReaderTest, EveryFieldIsFilledInEitherByteOrder)
     }
 }
 
-TEST(ExifReaderTest, TheWalkOverSectionsEndsAsTold)
+TEST(ExifReaderTest, TheWalkOverSectionsEndsWhereItMust)
 {
     const auto sections = [](int marker, int count) {
         std::string all = kStart;
