@@ -3,6 +3,28 @@
 <TS version="2.1" language="ar" sourcelanguage="en">
  <context>
   <name></name>
+  <message id="captionStoring" numerus="yes">
+   <source>Writing the captions of %1 photos</source>
+   <translation type="unfinished">
+    <numerusform>تُكتب شروح %1 صورة</numerusform>
+    <numerusform>يُكتب شرح صورة واحدة</numerusform>
+    <numerusform>يُكتب شرحا صورتين</numerusform>
+    <numerusform>تُكتب شروح %1 صور</numerusform>
+    <numerusform>تُكتب شروح %1 صورة</numerusform>
+    <numerusform>تُكتب شروح %1 صورة</numerusform>
+   </translation>
+  </message>
+  <message id="captionNotStored" numerus="yes">
+   <source>The texts of %1 photos could not be stored.</source>
+   <translation type="unfinished">
+    <numerusform>تعذّر حفظ نصوص %1 صورة.</numerusform>
+    <numerusform>تعذّر حفظ نصوص صورة واحدة.</numerusform>
+    <numerusform>تعذّر حفظ نصوص صورتين.</numerusform>
+    <numerusform>تعذّر حفظ نصوص %1 صور.</numerusform>
+    <numerusform>تعذّر حفظ نصوص %1 صورة.</numerusform>
+    <numerusform>تعذّر حفظ نصوص %1 صورة.</numerusform>
+   </translation>
+  </message>
   <message id="propertiesTitle">
    <source>Properties of %1</source>
    <translation type="unfinished">خصائص %1</translation>
@@ -266,6 +288,17 @@
     <numerusform>التراجع عن نقل %1 عنصر</numerusform>
    </translation>
   </message>
+  <message id="filesUndoRename" numerus="yes">
+   <source>Undo Rename of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>التراجع عن إعادة تسمية %1 عنصر</numerusform>
+    <numerusform>التراجع عن إعادة تسمية عنصر واحد</numerusform>
+    <numerusform>التراجع عن إعادة تسمية عنصرين</numerusform>
+    <numerusform>التراجع عن إعادة تسمية %1 عناصر</numerusform>
+    <numerusform>التراجع عن إعادة تسمية %1 عنصرًا</numerusform>
+    <numerusform>التراجع عن إعادة تسمية %1 عنصر</numerusform>
+   </translation>
+  </message>
   <message id="filesUndoDelete" numerus="yes">
    <source>Undo Delete of %1 Items</source>
    <translation type="unfinished">
@@ -332,6 +365,17 @@
   <message id="filesMakingFile">
    <source>Saving a picture</source>
    <translation type="unfinished">جارٍ حفظ صورة</translation>
+  </message>
+  <message id="filesRenamingAll" numerus="yes">
+   <source>Renaming %1 files</source>
+   <translation type="unfinished">
+    <numerusform>تُعاد تسمية %1 ملف</numerusform>
+    <numerusform>تُعاد تسمية ملف واحد</numerusform>
+    <numerusform>تُعاد تسمية ملفين</numerusform>
+    <numerusform>تُعاد تسمية %1 ملفات</numerusform>
+    <numerusform>تُعاد تسمية %1 ملفًا</numerusform>
+    <numerusform>تُعاد تسمية %1 ملف</numerusform>
+   </translation>
   </message>
   <message id="filesUndoing" numerus="yes">
    <source>Taking back %1 changes</source>
@@ -552,6 +596,17 @@
   <message id="filesNotRenamed">
    <source>The new name could not be given.</source>
    <translation type="unfinished">تعذر إعطاء الاسم الجديد.</translation>
+  </message>
+  <message id="filesNotAllRenamed" numerus="yes">
+   <source>%1 files could not be renamed.</source>
+   <translation type="unfinished">
+    <numerusform>تعذّرت إعادة تسمية %1 ملف.</numerusform>
+    <numerusform>تعذّرت إعادة تسمية ملف واحد.</numerusform>
+    <numerusform>تعذّرت إعادة تسمية ملفين.</numerusform>
+    <numerusform>تعذّرت إعادة تسمية %1 ملفات.</numerusform>
+    <numerusform>تعذّرت إعادة تسمية %1 ملفًا.</numerusform>
+    <numerusform>تعذّرت إعادة تسمية %1 ملف.</numerusform>
+   </translation>
   </message>
   <message id="filesNoFolderMade">
    <source>The folder could not be made.</source>
@@ -1161,6 +1216,16 @@ Pictures can be printed with the program that opens them: Open With in the list'
    <source>Searching by name, caption and date comes in a later version.</source>
    <translation type="unfinished">سيأتي البحث بالاسم والتعليق والتاريخ في إصدار لاحق.</translation>
   </message>
+  <message id="renameBadCharacters">
+   <source>These characters cann't used in filename:
+/ \ : * ? "" &lt; &gt; |</source>
+   <translation type="unfinished">لا يمكن استخدام هذه الأحرف في اسم الملف:
+/ \ : * ? "" &lt; &gt; |</translation>
+  </message>
+  <message id="renameTooLong">
+   <source>Can't rename. The file name or file extension is too long.</source>
+   <translation type="unfinished">تتعذر إعادة التسمية. اسم الملف أو امتداده طويل جدًا.</translation>
+  </message>
   <message id="skinTabs">
    <source>Places</source>
    <translation type="unfinished">الأماكن</translation>
@@ -1180,6 +1245,36 @@ Pictures can be printed with the program that opens them: Open With in the list'
   <message id="skinLeaveSearch">
    <source>Changing folders will cancel your search. Are you sure you want to change folders?</source>
    <translation type="unfinished">سيؤدي تغيير المجلد إلى إلغاء البحث. هل تريد تغيير المجلد؟</translation>
+  </message>
+  <message id="stampReadOnly">
+   <source>The read-only file can not be processed.</source>
+   <translation type="unfinished">لا يمكن معالجة ملف للقراءة فقط.</translation>
+  </message>
+  <message id="stampChanging" numerus="yes">
+   <source>Changing the time stamps of %1 files</source>
+   <translation type="unfinished">
+    <numerusform>تُغيَّر أختام الوقت لـ %1 ملف</numerusform>
+    <numerusform>يُغيَّر ختم الوقت لملف واحد</numerusform>
+    <numerusform>يُغيَّر ختما الوقت لملفين</numerusform>
+    <numerusform>تُغيَّر أختام الوقت لـ %1 ملفات</numerusform>
+    <numerusform>تُغيَّر أختام الوقت لـ %1 ملفًا</numerusform>
+    <numerusform>تُغيَّر أختام الوقت لـ %1 ملف</numerusform>
+   </translation>
+  </message>
+  <message id="stampUndoName">
+   <source>Undo Time Stamps of “%1”</source>
+   <translation type="unfinished">التراجع عن ختم الوقت لـ «%1»</translation>
+  </message>
+  <message id="stampUndo" numerus="yes">
+   <source>Undo Time Stamps of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>التراجع عن أختام الوقت لـ %1 عنصر</numerusform>
+    <numerusform>التراجع عن ختم الوقت لعنصر واحد</numerusform>
+    <numerusform>التراجع عن ختمي الوقت لعنصرين</numerusform>
+    <numerusform>التراجع عن أختام الوقت لـ %1 عناصر</numerusform>
+    <numerusform>التراجع عن أختام الوقت لـ %1 عنصرًا</numerusform>
+    <numerusform>التراجع عن أختام الوقت لـ %1 عنصر</numerusform>
+   </translation>
   </message>
   <message id="statusFiles" numerus="yes">
    <source>%1 files</source>

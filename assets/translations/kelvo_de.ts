@@ -3,6 +3,20 @@
 <TS version="2.1" language="de" sourcelanguage="en">
  <context>
   <name></name>
+  <message id="captionStoring" numerus="yes">
+   <source>Writing the captions of %1 photos</source>
+   <translation type="unfinished">
+    <numerusform>Die Bildunterschrift von %1 Foto wird geschrieben</numerusform>
+    <numerusform>Die Bildunterschriften von %1 Fotos werden geschrieben</numerusform>
+   </translation>
+  </message>
+  <message id="captionNotStored" numerus="yes">
+   <source>The texts of %1 photos could not be stored.</source>
+   <translation type="unfinished">
+    <numerusform>Die Texte von %1 Foto konnten nicht gespeichert werden.</numerusform>
+    <numerusform>Die Texte von %1 Fotos konnten nicht gespeichert werden.</numerusform>
+   </translation>
+  </message>
   <message id="propertiesTitle">
    <source>Properties of %1</source>
    <translation type="unfinished">Eigenschaften von %1</translation>
@@ -246,6 +260,13 @@
     <numerusform>Verschieben von %1 Elementen rückgängig</numerusform>
    </translation>
   </message>
+  <message id="filesUndoRename" numerus="yes">
+   <source>Undo Rename of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>Umbenennen von %1 Element rückgängig</numerusform>
+    <numerusform>Umbenennen von %1 Elementen rückgängig</numerusform>
+   </translation>
+  </message>
   <message id="filesUndoDelete" numerus="yes">
    <source>Undo Delete of %1 Items</source>
    <translation type="unfinished">
@@ -292,6 +313,13 @@
   <message id="filesMakingFile">
    <source>Saving a picture</source>
    <translation type="unfinished">Bild wird gespeichert</translation>
+  </message>
+  <message id="filesRenamingAll" numerus="yes">
+   <source>Renaming %1 files</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei wird umbenannt</numerusform>
+    <numerusform>%1 Dateien werden umbenannt</numerusform>
+   </translation>
   </message>
   <message id="filesUndoing" numerus="yes">
    <source>Taking back %1 changes</source>
@@ -480,6 +508,13 @@
   <message id="filesNotRenamed">
    <source>The new name could not be given.</source>
    <translation type="unfinished">Der neue Name konnte nicht vergeben werden.</translation>
+  </message>
+  <message id="filesNotAllRenamed" numerus="yes">
+   <source>%1 files could not be renamed.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei konnte nicht umbenannt werden.</numerusform>
+    <numerusform>%1 Dateien konnten nicht umbenannt werden.</numerusform>
+   </translation>
   </message>
   <message id="filesNoFolderMade">
    <source>The folder could not be made.</source>
@@ -1081,6 +1116,16 @@ Bilder lassen sich mit dem Programm drucken, das sie öffnet: „Öffnen mit“ 
    <source>Searching by name, caption and date comes in a later version.</source>
    <translation type="unfinished">Die Suche nach Name, Beschriftung und Datum kommt in einer späteren Version.</translation>
   </message>
+  <message id="renameBadCharacters">
+   <source>These characters cann't used in filename:
+/ \ : * ? "" &lt; &gt; |</source>
+   <translation type="unfinished">Diese Zeichen dürfen in Dateinamen nicht vorkommen:
+/ \ : * ? "" &lt; &gt; |</translation>
+  </message>
+  <message id="renameTooLong">
+   <source>Can't rename. The file name or file extension is too long.</source>
+   <translation type="unfinished">Umbenennen nicht möglich. Der Dateiname oder die Dateiendung ist zu lang.</translation>
+  </message>
   <message id="skinTabs">
    <source>Places</source>
    <translation type="unfinished">Orte</translation>
@@ -1100,6 +1145,28 @@ Bilder lassen sich mit dem Programm drucken, das sie öffnet: „Öffnen mit“ 
   <message id="skinLeaveSearch">
    <source>Changing folders will cancel your search. Are you sure you want to change folders?</source>
    <translation type="unfinished">Ein anderer Ordner beendet die Suche. Wirklich den Ordner wechseln?</translation>
+  </message>
+  <message id="stampReadOnly">
+   <source>The read-only file can not be processed.</source>
+   <translation type="unfinished">Die schreibgeschützte Datei kann nicht bearbeitet werden.</translation>
+  </message>
+  <message id="stampChanging" numerus="yes">
+   <source>Changing the time stamps of %1 files</source>
+   <translation type="unfinished">
+    <numerusform>Der Zeitstempel von %1 Datei wird geändert</numerusform>
+    <numerusform>Die Zeitstempel von %1 Dateien werden geändert</numerusform>
+   </translation>
+  </message>
+  <message id="stampUndoName">
+   <source>Undo Time Stamps of “%1”</source>
+   <translation type="unfinished">Zeitstempel von „%1“ rückgängig</translation>
+  </message>
+  <message id="stampUndo" numerus="yes">
+   <source>Undo Time Stamps of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>Zeitstempel von %1 Element rückgängig</numerusform>
+    <numerusform>Zeitstempel von %1 Elementen rückgängig</numerusform>
+   </translation>
   </message>
   <message id="statusFiles" numerus="yes">
    <source>%1 files</source>

@@ -185,6 +185,12 @@ void CDataFolders::FindProblems()
     }
 }
 
+std::string CDataFolders::JournalFolder() const
+{
+    return thumbDbFolder.empty() ? std::string()
+                                 : browser::JoinPath(browser::FolderOf(thumbDbFolder), "Journal");
+}
+
 bool CDataFolders::GetFolderPath(int kind, std::string& path) const
 {
     struct Place {

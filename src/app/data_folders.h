@@ -61,6 +61,8 @@ public:
     const std::string& TempRoot() const { return tempRoot; }
     const std::string& MobileDownloadRoot() const { return mobileDownloadRoot; }
     const std::string& ThumbDbFolder() const { return thumbDbFolder; }
+    // Where changes to files are written down before they happen; beside the thumbnail folder, empty without.
+    std::string JournalFolder() const;
     const std::string& OutboxFolder() const { return outboxFolder; }
     const std::string& SearchFolder() const { return searchFolder; }
     const std::string& VersionText() const { return versionText; }

@@ -282,6 +282,19 @@ bool CPackageArchive::SetTexts(std::size_t position, const std::optional<std::st
     return true;
 }
 
+bool CPackageArchive::SetName(std::size_t position, const std::string& name)
+{
+    if (!Holds(position) || Member(position).deleted)
+        return Fail("there is no such member");
+    if (name.empty() || name.size() > kLongestText)
+        return Fail("a member has a name of 1 to 65535 bytes");
+    if (Member(position).name == name)
+        return true;
+    index->Rename(position, name);
+    newTexts.insert(position);
+    return true;
+}
+
 // Whether compaction would give another file than the one there is.
 bool CPackageArchive::NeedsCompaction() const
 {

@@ -43,6 +43,14 @@ struct AddOptions {
     std::string timeStampText = {};
     bool keepFullName = false;    // the member is named with the whole path instead of its last part
     std::string memberName = {};  // when not empty, the member's name whatever the source's is
+    std::string caption = {};
+    std::string secondText = {};
+};
+
+// A member with its data as they are stored, on its way to another archive.
+struct RawMember {
+    PackageMember record;
+    std::string data;
 };
 
 class CPackageArchive
@@ -92,6 +100,14 @@ public:
                   const std::optional<std::string>& timeStampText,
                   const std::optional<std::string>& secondText);
 
+    // The same for the name, which must not be empty. Two members may come to have one name: the first is
+    // found.
+    bool SetName(std::size_t position, const std::string& name);
+
+    std::optional<RawMember> TakeRaw(std::size_t position);
+    // Appends the member as it is, as AddFile.
+    bool AddRaw(const RawMember& member);
+
     // Stops the compression or decompression under way, and all later ones until the next Open. May be
     // called from any thread.
     void Abort() { aborted = true; }
@@ -124,6 +140,8 @@ private:
     std::unique_ptr<platform::CFile> OpenSource(const std::string& source, const AddOptions& options,
                                                 PackageMember& member);
     bool WriteMember(platform::CFile& source, PackageMember& member);
+    bool BeginAdding();
+    bool EndAdding(bool written, PackageMember member);
     bool NeedsCompaction() const;
     bool Compact();
     void Forget();
@@ -135,7 +153,7 @@ private:
     platform::FileStamp stamp;       // of the file as it was opened
     bool changed = false;            // the file, since it was opened
     bool damaged = false;            // the member of the latest extraction
-    std::set<std::size_t> newTexts;  // members whose texts in memory differ from the file's
+    std::set<std::size_t> newTexts;  // members whose name or texts in memory differ from the file's
     std::unique_ptr<CDeflater> deflater;
     std::atomic<bool> aborted = false;
     int patience = 10'000;

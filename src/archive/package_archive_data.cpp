@@ -73,8 +73,12 @@ std::unique_ptr<platform::CFile> CPackageArchive::OpenSource(const std::string& 
     if (!options.memberName.empty())
         member.name = options.memberName;
     member.timeStampText = options.timeStampText;
+    member.caption = options.caption;
+    member.secondText = options.secondText;
     member.thirdTime = options.thirdTime;
-    if (member.name.size() > kLongestText || member.timeStampText.size() > kLongestText) {
+    const auto isTooLong = [](const std::string& text) { return text.size() > kLongestText; };
+    if (isTooLong(member.name) || isTooLong(member.timeStampText) || isTooLong(member.caption) ||
+        isTooLong(member.secondText)) {
         Fail("the name or the text is longer than 65535 bytes");
         return nullptr;
     }
@@ -98,28 +102,67 @@ std::unique_ptr<platform::CFile> CPackageArchive::OpenSource(const std::string& 
     return opened;
 }
 
-bool CPackageArchive::AddFile(const std::string& source, const AddOptions& options)
+bool CPackageArchive::BeginAdding()
 {
     if (!MayChange() || !FindTail())
         return false;
-    if (index->CountToTail() >= std::numeric_limits<std::uint32_t>::max() - 1)
-        return Fail("the archive holds as many members as it can");
+    error.clear();
+    return index->CountToTail() < std::numeric_limits<std::uint32_t>::max() - 1 ||
+           Fail("the archive holds as many members as it can");
+}
+
+bool CPackageArchive::AddFile(const std::string& source, const AddOptions& options)
+{
     PackageMember member;
-    const auto input = OpenSource(source, options, member);
+    const auto input = BeginAdding() ? OpenSource(source, options, member) : nullptr;
     if (!input || !PrepareHeader())
         return false;
     member.recordPosition = index->Tail();
-    const bool written = WriteMember(*input, member) && WriteCount(index->CountToTail() + 1);
-    if (!written) {
-        if (error.empty())
-            FailAs("the archive cannot be written");
-        file->Truncate(member.recordPosition);
-        changed = true;
-        return false;
-    }
-    index->Append(std::move(member));
+    const bool written = WriteMember(*input, member);
+    return EndAdding(written, std::move(member));
+}
+
+// Counts the member that was written behind the last one, or takes away what there is of it.
+bool CPackageArchive::EndAdding(bool written, PackageMember member)
+{
     changed = true;
-    return true;
+    if (written && WriteCount(index->CountToTail() + 1)) {
+        index->Append(std::move(member));
+        return true;
+    }
+    if (error.empty())
+        FailAs("the archive cannot be written");
+    file->Truncate(member.recordPosition);
+    return false;
+}
+
+std::optional<RawMember> CPackageArchive::TakeRaw(std::size_t position)
+{
+    if (!MayExtract(position))
+        return std::nullopt;
+    RawMember taken{Member(position), std::string(Member(position).storedSize, '\0')};
+    const std::size_t read =
+        file->ReadAt(taken.record.dataPosition, std::as_writable_bytes(std::span(taken.data)));
+    if (read == taken.data.size())
+        return taken;
+    FailAs("the archive cannot be read");
+    return std::nullopt;
+}
+
+bool CPackageArchive::AddRaw(const RawMember& member)
+{
+    if (!BeginAdding() || !PrepareHeader())
+        return false;
+    PackageMember record = member.record;
+    record.deleted = false;
+    record.storedSize = static_cast<std::uint32_t>(member.data.size());
+    record.recordPosition = index->Tail();
+    const std::string head = EncodeRecord(record);
+    record.dataPosition = record.recordPosition + head.size();
+    CBlockWriter writer(*file, record.recordPosition, kWriteBlock);
+    const bool written = writer.Append(std::as_bytes(std::span(head))) &&
+                         writer.Append(std::as_bytes(std::span(member.data))) && writer.Flush();
+    return EndAdding(written, std::move(record));
 }
 
 // Writes the record and the data behind the last member; the count is left alone.

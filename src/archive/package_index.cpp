@@ -182,6 +182,14 @@ void CPackageIndex::MarkDeleted(std::size_t index)
         *place = links[index].next;
 }
 
+// Searches take up the new name with a new table.
+void CPackageIndex::Rename(std::size_t index, const std::string& name)
+{
+    members[index].name = name;
+    heads.clear();
+    links.clear();
+}
+
 std::optional<std::size_t> CPackageIndex::FindRead(const std::string& name, NameMatch match)
 {
     if (heads.empty())

@@ -70,6 +70,7 @@ public:
     void MarkDeleted(std::size_t index);
     // In memory alone.
     PackageMember& Editable(std::size_t index) { return members[index]; }
+    void Rename(std::size_t index, const std::string& name);
 
 private:
     struct Link {

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/file_job.h"
 
+#include "browser/change_journal.h"
 #include "browser/clash_names.h"
 #include "browser/file_names.h"
 #include "browser/job_run.h"
+#include "browser/member_carry.h"
 #include "platform/services.h"
+#include "platform/utility.h"
 
 #include <fmt/format.h>
 
@@ -32,6 +35,13 @@ FileFailure FailureOf(const platform::FileStepResult& result, const std::string&
     return whole ? result.problems.front().failure : FileFailure::other;
 }
 
+std::string WithoutSeparator(std::string path)
+{
+    while (path.size() > 1 && path.ends_with('/'))
+        path.pop_back();
+    return path;
+}
+
 class CFileJob
 {
 public:
@@ -53,18 +63,59 @@ public:
             MakeFolder();
         if (request.task == FileTask::makePicture)
             MakePicture();
+        if (request.task == FileTask::rename && !WriteDown())
+            return std::move(report);
         for (std::size_t i = 0; i < request.sources.size() && !report.cancelled; ++i) {
             run.BeginItem(i, request.sources.size());
-            std::string source = request.sources[i];
-            while (source.size() > 1 && source.ends_with('/'))
-                source.pop_back();
-            DoItem(source);
+            DoItem(WithoutSeparator(request.sources[i]), i);
         }
+        Carry();
+        if (written && written->Write(JournalState::done, report.undo) && !report.undo.steps.empty())
+            report.undo.journalNumber = written->Number();
         return std::move(report);
     }
 
 private:
-    void DoItem(const std::string& source)
+    // What is about to be renamed, in the journal. Without it nothing is.
+    bool WriteDown()
+    {
+        if (request.stores.journal.empty())
+            return true;
+        report.undo.when = Os().utility->ql_GetCurDate();
+        UndoRecord planned = report.undo;
+        for (std::size_t i = 0; i < request.sources.size(); ++i) {
+            const std::string source = WithoutSeparator(request.sources[i]);
+            if (const auto facts = Os().shell->FindEntry(source))
+                planned.steps.push_back({UndoAction::moveBack, TargetOf(i), source, facts->stamp});
+        }
+        if (planned.steps.empty())
+            return true;
+        written = CChangeJournal(request.stores.journal).Begin(planned);
+        if (!written)
+            run.Note({request.stores.journal, FileFailure::other, Os().files->LastError()});
+        return written != nullptr;
+    }
+
+    const std::string& TargetOf(std::size_t item) const
+    {
+        return item < request.targets.size() ? request.targets[item] : request.target;
+    }
+
+    // What the thumbnail store holds of the files goes with them.
+    void Carry()
+    {
+        if (request.stores.thumbnails.empty())
+            return;
+        std::vector<CarriedPath> moved;
+        for (const UndoStep& step : report.undo.steps) {
+            if (step.action == UndoAction::moveBack)
+                moved.push_back({step.origin, step.path});
+        }
+        CarryInStore(request.stores.thumbnails, moved, CarryKind::move);
+        CarryInStore(request.stores.thumbnails, copied, CarryKind::copy);
+    }
+
+    void DoItem(const std::string& source, std::size_t number)
     {
         const std::size_t before = report.problemCount;
         const std::size_t skippedBefore = report.skipped;
@@ -75,7 +126,7 @@ private:
             Transfer(source, JoinPath(request.target, FileName(source)));
             break;
         case FileTask::rename:
-            Settle(source, run.Do(FileOperation::rename, source, request.target));
+            Settle(source, run.Do(FileOperation::rename, source, TargetOf(number)));
             break;
         case FileTask::trash:
             Trash(source);
@@ -160,9 +211,11 @@ private:
     void Settle(const std::string& source, const platform::FileStepResult& result)
     {
         if (!result.target.empty()) {
-            const bool copied = request.task == FileTask::copy;
-            Record(copied ? UndoAction::takeAway : UndoAction::moveBack, result.target,
-                   copied ? std::string() : source);
+            const bool isCopy = request.task == FileTask::copy;
+            Record(isCopy ? UndoAction::takeAway : UndoAction::moveBack, result.target,
+                   isCopy ? std::string() : source);
+            if (isCopy)
+                copied.push_back({source, result.target});
             if (std::exchange(isTop, false))
                 report.results.push_back(result.target);
         }
@@ -267,6 +320,8 @@ private:
     const FileJobRequest& request;
     FileJobReport report;
     CJobRun run;
+    std::unique_ptr<CChangeJournal::COpenEntry> written;
+    std::vector<CarriedPath> copied;
     bool isTop = false;  // the item in work is one that the user chose, and nothing is there of it yet
     std::optional<ClashAnswer> answerForFolders;
     std::optional<ClashAnswer> answerForOthers;
@@ -276,7 +331,8 @@ private:
 
 FileJobReport RunFileJob(const FileJobRequest& request, CFileJobHost& host)
 {
-    return request.task == FileTask::undo ? RunUndo(request.record, host) : CFileJob(request, host).Run();
+    return request.task == FileTask::undo ? RunUndo(request.record, request.stores, host)
+                                          : CFileJob(request, host).Run();
 }
 
 }  // namespace browser

@@ -4,7 +4,8 @@
 //
 // It blocks, so it belongs on a thread of its own. Nothing that exists is overwritten unless the host says
 // so, and then the old one goes to the trash. What cannot be done is noted and the rest goes on; what was
-// done can be undone with the record that the report carries.
+// done can be undone with the record that the report carries. Thumbnails and texts follow the files that are
+// copied, moved and renamed.
 #pragma once
 
 #include "browser/undo_list.h"
@@ -13,6 +14,12 @@
 namespace browser
 {
 
+// The folders of what follows the files. An empty one is not kept.
+struct JobStores {
+    std::string thumbnails;  // of the thumbnail store
+    std::string journal;     // of the journal in which renames are written down first
+};
+
 struct FileJobRequest {
     FileTask task = FileTask::copy;
     std::vector<std::string> sources;
@@ -20,6 +27,8 @@ struct FileJobRequest {
     std::string target;
     UndoRecord record;  // undo: what to take back
     std::string bytes;  // makePicture: a bitmap file, which becomes "Image0001.bmp" or the next free number
+    std::vector<std::string> targets = {};  // rename of several: the new path of each source
+    JobStores stores = {};
 };
 
 enum class ClashAnswer { cancel, skip, replace, keepBoth, merge };

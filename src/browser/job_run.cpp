@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/job_run.h"
 
+#include "browser/change_journal.h"
 #include "platform/services.h"
 
 #include <algorithm>
@@ -43,6 +44,25 @@ FileOperation OperationOf(UndoAction action)
     }
 }
 
+// Times that somebody else has changed since stay.
+std::optional<platform::FileProblem> RestoreTimes(const UndoStep& step)
+{
+    const auto facts = Os().files->FindFirstFile(step.path);
+    if (!facts)
+        return platform::FileProblem{step.path, FileFailure::missing, {}};
+    const auto isKnown = [](platform::FileTime now, platform::FileTime before, platform::FileTime after) {
+        return after == 0 || now == after || now == before;
+    };
+    if (!isKnown(facts->creationTime, step.before.creation, step.after.creation) ||
+        !isKnown(facts->lastWriteTime, step.before.lastWrite, step.after.lastWrite))
+        return platform::FileProblem{step.path, FileFailure::changed, {}};
+    const platform::FileTime creation = step.after.creation == 0 ? 0 : step.before.creation;
+    const platform::FileTime lastWrite = step.after.lastWrite == 0 ? 0 : step.before.lastWrite;
+    if (Os().files->SetFileTime(step.path, creation, lastWrite))
+        return std::nullopt;
+    return platform::FileProblem{step.path, FileFailure::other, Os().files->LastError()};
+}
+
 // Nothing when it was taken back.
 std::optional<platform::FileProblem> TakeBack(const UndoStep& step, CJobRun& run)
 {
@@ -51,6 +71,8 @@ std::optional<platform::FileProblem> TakeBack(const UndoStep& step, CJobRun& run
             return std::nullopt;
         return platform::FileProblem{step.path, FileFailure::other, Os().files->LastError()};
     }
+    if (step.action == UndoAction::restoreTimes)
+        return RestoreTimes(step);
     const auto facts = Os().shell->FindEntry(step.path);
     if (!facts)
         return platform::FileProblem{step.path, FileFailure::missing, {}};
@@ -63,6 +85,31 @@ std::optional<platform::FileProblem> TakeBack(const UndoStep& step, CJobRun& run
     if (problem.failure == FileFailure::nameTaken)
         problem.path = step.origin;
     return problem;
+}
+
+// What could not be taken back is told of and given up; what is left after a stop stays in the record.
+void TakeBackAll(FileJobReport& report, CJobRun& run, const JobStores& stores)
+{
+    std::vector<UndoStep>& left = report.undo.steps;
+    std::vector<CarriedPath> moved;
+    while (!left.empty() && !report.cancelled) {
+        const UndoStep step = left.back();
+        run.BeginItem(report.items - left.size(), report.items);
+        const auto problem = TakeBack(step, run);
+        if (problem)
+            run.Note(*problem);
+        if (report.cancelled)
+            break;
+        left.pop_back();
+        if (problem)
+            continue;
+        ++report.done;
+        if (!step.origin.empty())
+            report.results.push_back(step.origin);
+        if (step.action == UndoAction::moveBack)
+            moved.push_back({step.path, step.origin});
+    }
+    CarryInStore(stores.thumbnails, moved, CarryKind::move);
 }
 
 }  // namespace
@@ -102,29 +149,32 @@ void CJobRun::Note(platform::FileProblem problem)
         report.problems.push_back(std::move(problem));
 }
 
-FileJobReport RunUndo(const UndoRecord& record, CFileJobHost& host)
+bool CarryInStore(const std::string& storeFolder, const std::vector<CarriedPath>& paths, CarryKind kind)
+{
+    if (storeFolder.empty() || paths.empty())
+        return true;
+    CThumbDbMgr manager(storeFolder);
+    manager.Load();
+    return CarryMembers(manager, paths, kind);
+}
+
+FileJobReport RunUndo(const UndoRecord& record, const JobStores& stores, CFileJobHost& host)
 {
     FileJobReport report;
     CJobRun run(host, report);
     report.task = FileTask::undo;
     report.items = record.steps.size();
     report.undo = record;
-    std::vector<UndoStep>& left = report.undo.steps;
-    while (!left.empty() && !report.cancelled) {
-        const UndoStep step = left.back();
-        run.BeginItem(report.items - left.size(), report.items);
-        const auto problem = TakeBack(step, run);
-        if (problem)
-            run.Note(*problem);
-        if (report.cancelled)
-            return report;
-        left.pop_back();
-        if (problem)
-            continue;
-        ++report.done;
-        if (!step.origin.empty())
-            report.results.push_back(step.origin);
+    const bool isWritten = record.journalNumber != 0 && !stores.journal.empty();
+    const auto entry = isWritten ? CChangeJournal(stores.journal).Open(record.journalNumber) : nullptr;
+    if (isWritten && (!entry || !entry->Write(JournalState::undone, record))) {
+        run.Note({record.name, FileFailure::changed, {}});
+        report.undo.steps.clear();
+        return report;
     }
+    TakeBackAll(report, run, stores);
+    if (entry)
+        entry->Write(JournalState::done, report.undo);
     return report;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "browser/file_job.h"
+#include "browser/member_carry.h"
 
 namespace browser
 {
@@ -29,6 +30,9 @@ private:
 };
 
 // Takes a record back from its end. What is no longer as the record left it stays as it is and is told of.
-FileJobReport RunUndo(const UndoRecord& record, CFileJobHost& host);
+FileJobReport RunUndo(const UndoRecord& record, const JobStores& stores, CFileJobHost& host);
+
+// CarryMembers with a manager of the job's own; true when there is nothing to carry.
+bool CarryInStore(const std::string& storeFolder, const std::vector<CarriedPath>& paths, CarryKind kind);
 
 }  // namespace browser

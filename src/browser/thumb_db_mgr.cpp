@@ -265,6 +265,46 @@ int CThumbDbMgr::RenameFolder(const std::string& oldFolder, const std::string& n
     return 1;
 }
 
+bool CThumbDbMgr::FolderMoved(const std::string& oldFolder, const std::string& newFolder)
+{
+    const std::string from = WithoutTrailingSeparator(oldFolder);
+    const std::string to = WithoutTrailingSeparator(newFolder);
+    const auto lock = from.empty() || to.empty() ? nullptr : LockStore();
+    if (!lock) {
+        return false;
+    }
+    TakeInChanges();
+    const auto isIn = [](const std::string& path, const std::string& folder) {
+        return path == folder || path.starts_with(JoinPath(folder, ""));
+    };
+    const auto moves = [&](const ThumbDbRecord& record) { return isIn(record.folderPath, from); };
+    if (std::ranges::none_of(records, moves)) {
+        return true;
+    }
+    std::list<ThumbDbRecord> followed = records;
+    std::vector<std::string> forgotten;
+    followed.remove_if([&](const ThumbDbRecord& record) {
+        const bool isOld = isIn(record.folderPath, to) && !moves(record);
+        if (isOld) {
+            forgotten.push_back(record.dbFileName);
+        }
+        return isOld;
+    });
+    for (ThumbDbRecord& record : followed) {
+        if (moves(record)) {
+            record.folderPath.replace(0, from.size(), to);
+        }
+    }
+    if (!ReplaceFile(followed)) {
+        return false;
+    }
+    records = std::move(followed);
+    for (const std::string& name : forgotten) {
+        Files().DeleteFile(JoinPath(dbFolder, name));
+    }
+    return true;
+}
+
 int CThumbDbMgr::Save(bool write)
 {
     const auto lock = write ? LockStore() : nullptr;

@@ -53,6 +53,9 @@ public:
     // Gives the records of the old path the new one exactly as it is written. The manager file learns of it
     // at the next Save. 0 only for an empty argument.
     int RenameFolder(const std::string& oldFolder, const std::string& newFolder);
+    // The folder was moved or renamed, and what is below it with it: the records follow, in the manager file
+    // at once. What was recorded of the new path before is forgotten. False when that cannot be written.
+    bool FolderMoved(const std::string& oldFolder, const std::string& newFolder);
     // With `write`, rewrites the manager file without the folders that no longer exist and deletes their
     // archives; folders that merely cannot be reached now are kept. The list is empty afterwards. Always 1.
     int Save(bool write);

@@ -36,6 +36,11 @@ std::string TemporaryPath(const std::string& entryName)
     return JoinPath(folder, entryName.size() > kLongestFileName ? "~long~name~.jpg" : entryName);
 }
 
+bool HasTexts(const PackageMember& member)
+{
+    return !member.caption.empty() || !member.secondText.empty() || !member.timeStampText.empty();
+}
+
 bool IsCurrent(const PackageMember& member, const platform::FileFacts& facts)
 {
     return facts.size == 0 ||
@@ -66,6 +71,27 @@ LoadedEntry LoadEntry(CPackageArchive& opened, std::size_t index)
         Files().DeleteFile(path);
     }
     return loaded;
+}
+
+// Adds the thumbnail in the temporary file in the place of the member that the photo has, if it has one.
+bool PutInPlace(CPackageArchive& opened, const std::string& temporary, const platform::FileFacts& facts,
+                archive::AddOptions options)
+{
+    const auto old = opened.FindExact(options.memberName);
+    // A member that still is good was only unreadable at the moment.
+    if (old && IsCurrent(opened.Member(*old), facts) && opened.Member(*old).storedSize > 0) {
+        return false;
+    }
+    if (old) {
+        const PackageMember& member = opened.Member(*old);
+        options.caption = member.caption;
+        options.secondText = member.secondText;
+        const bool isUsers = !member.caption.empty() || !member.secondText.empty();
+        if (isUsers || options.timeStampText.empty()) {
+            options.timeStampText = member.timeStampText;
+        }
+    }
+    return opened.AddFile(temporary, options) && (!old || opened.Remove(*old));
 }
 
 }  // namespace
@@ -108,7 +134,7 @@ std::optional<StoredThumbnail> CThumbnailStore::Fetch(const std::string& path,
         const bool isCurrent = IsCurrent(member, facts);
         LoadedEntry loaded = isCurrent ? LoadEntry(opened, *index) : LoadedEntry{};
         if (!isCurrent || loaded.isDamaged) {
-            opened.Remove(*index);
+            Retire(opened, *index, loaded.isDamaged);
         } else if (loaded.bitmap) {
             stored = StoredThumbnail{std::move(loaded.bitmap), member.thirdTime, member.timeStampText};
         }
@@ -117,15 +143,30 @@ std::optional<StoredThumbnail> CThumbnailStore::Fetch(const std::string& path,
     return stored;
 }
 
+// The member is of no use as a thumbnail any more. Its texts stay until a new one takes them over; damaged
+// data would be taken for a thumbnail of the file again, so the texts get a member without data.
+void CThumbnailStore::Retire(CPackageArchive& opened, std::size_t index, bool isDamaged)
+{
+    const PackageMember& member = opened.Member(index);
+    if (!HasTexts(member)) {
+        opened.Remove(index);
+    } else if (isDamaged && member.storedSize > 0) {
+        archive::RawMember texts{member, {}};
+        texts.record.lastWriteTime = 0;
+        if (opened.AddRaw(texts)) {
+            opened.Remove(index);
+        }
+    }
+}
+
 bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitmap,
                            const platform::FileFacts& facts, platform::FileTime thirdTime,
                            const std::string& dateText)
 {
-    std::string archivePath;
     const std::string entryName = EntryName(path);
     const std::string temporary = TemporaryPath(entryName);
-    if (temporary.empty() || !manager.AddFolder(std::string(FolderOf(path))) ||
-        manager.GetDbPathForFile(path, &archivePath) == 0 ||
+    CPackageArchive opened;
+    if (temporary.empty() ||
         !platform::Os().images->SaveJpeg(bitmap, temporary, platform::kDefaultJpegQuality)) {
         return false;
     }
@@ -134,19 +175,23 @@ bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitm
     options.thirdTime = thirdTime;
     options.timeStampText = dateText;
     options.memberName = entryName;
-    CPackageArchive opened;
-    opened.SetPatience(manager.Patience());
-    // A member that is there still is sound and was only unreadable at the moment: its texts stay with it.
-    const bool kept = OpenForAdding(opened, archivePath) && !opened.FindExact(entryName) &&
-                      opened.AddFile(temporary, options);
+    const bool kept = OpenForAdding(opened, std::string(FolderOf(path))) &&
+                      PutInPlace(opened, temporary, facts, std::move(options));
     opened.Close(false);
     Files().DeleteFile(temporary);
     return kept;
 }
 
+bool CThumbnailStore::OpenForAdding(CPackageArchive& opened, const std::string& folder) const
+{
+    const std::string* name = manager.AddFolder(folder);
+    opened.SetPatience(manager.Patience());
+    return name && OpenOrMake(opened, JoinPath(manager.DbFolder(), *name));
+}
+
 // Making the archive and finding it already made must not cross: two processes would empty each other's. A
 // file that is no archive has nothing to keep.
-bool CThumbnailStore::OpenForAdding(CPackageArchive& opened, const std::string& archivePath) const
+bool CThumbnailStore::OpenOrMake(CPackageArchive& opened, const std::string& archivePath) const
 {
     const auto openExisting = [&] { return opened.Open(archivePath, CPackageArchive::Mode::readWrite); };
     if (openExisting() && !opened.IsForeign()) {

@@ -29,10 +29,16 @@ class CThumbnailStore
 public:
     explicit CThumbnailStore(CThumbDbMgr& owner) : manager(owner) {}
 
+    // Opens the archive of a folder for changes, making it when there is none. It is closed by the caller, or
+    // by its end.
+    bool OpenForAdding(archive::CPackageArchive& opened, const std::string& folder) const;
+
     // The stored thumbnail of the file when the file still has the times and length that it had then; a file
-    // of length 0 is not compared. A stale member is removed.
+    // of length 0 is not compared. A stale member is removed, but for one that holds texts: that one waits
+    // for Keep.
     std::optional<StoredThumbnail> Fetch(const std::string& path, const platform::FileFacts& facts);
-    // Keeps a thumbnail; false when the store cannot take it.
+    // Keeps a thumbnail; false when the store cannot take it. It takes over the texts of the member whose
+    // place it takes; a date alone gives way to `dateText`.
     bool Keep(const std::string& path, const platform::Bitmap& bitmap, const platform::FileFacts& facts,
               platform::FileTime thirdTime, const std::string& dateText);
     // Sets the three texts of a member; false when the archive or the member is missing.
@@ -46,7 +52,8 @@ public:
                                                  const std::string& path);
 
 private:
-    bool OpenForAdding(archive::CPackageArchive& opened, const std::string& archivePath) const;
+    bool OpenOrMake(archive::CPackageArchive& opened, const std::string& archivePath) const;
+    static void Retire(archive::CPackageArchive& opened, std::size_t index, bool isDamaged);
 
     CThumbDbMgr& manager;
 };

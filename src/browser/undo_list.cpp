@@ -25,6 +25,19 @@ void CUndoList::Push(UndoRecord record)
     }
 }
 
+void CUndoList::PushBelow(std::vector<UndoRecord> older)
+{
+    std::deque<UndoRecord> later = std::move(records);
+    records.clear();
+    stepCount = 0;
+    for (UndoRecord& record : older) {
+        Push(std::move(record));
+    }
+    for (UndoRecord& record : later) {
+        Push(std::move(record));
+    }
+}
+
 std::optional<UndoRecord> CUndoList::Take()
 {
     if (records.empty())

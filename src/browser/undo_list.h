@@ -16,7 +16,18 @@
 namespace browser
 {
 
-enum class FileTask { copy, move, trash, remove, rename, makeFolder, makePicture, undo };
+enum class FileTask {
+    copy,
+    move,
+    trash,
+    remove,
+    rename,
+    makeFolder,
+    makePicture,
+    undo,
+    changeTimes,
+    setTexts
+};
 
 enum class UndoAction {
     moveBack,      // from `path` to `origin`
@@ -24,6 +35,14 @@ enum class UndoAction {
     restore,       // from the trash, `path`, to `origin`
     makeFolder,    // the folder `path` was removed
     removeFolder,  // the folder `path` was made; it must be empty
+    restoreTimes,  // the times of `path` were changed
+};
+
+// 0 for one that is not changed.
+struct FileTimes {
+    platform::FileTime creation = 0;
+    platform::FileTime lastWrite = 0;
+    bool operator==(const FileTimes&) const = default;
 };
 
 struct UndoStep {
@@ -31,6 +50,8 @@ struct UndoStep {
     std::string path;
     std::string origin;
     platform::FileStamp stamp;  // of `path`
+    FileTimes before = {};      // restoreTimes
+    FileTimes after = {};
     bool operator==(const UndoStep&) const = default;
 };
 
@@ -39,6 +60,8 @@ struct UndoRecord {
     std::size_t items = 0;        // what the user chose
     std::string name;             // of the first of them
     std::vector<UndoStep> steps;  // in the order of doing; undone from the end
+    platform::FileTime when = 0;
+    std::uint64_t journalNumber = 0;  // of its entry in the journal; 0 for none
     bool operator==(const UndoRecord&) const = default;
 };
 
@@ -47,6 +70,8 @@ class CUndoList
 public:
     // A record without steps is left out; the oldest ones are dropped when there are too many.
     void Push(UndoRecord record);
+    // Puts records below all others, the latest of them last in the list.
+    void PushBelow(std::vector<UndoRecord> older);
     // The record that would be taken; null when there is none.
     const UndoRecord* Latest() const { return records.empty() ? nullptr : &records.back(); }
     std::optional<UndoRecord> Take();

@@ -18,6 +18,9 @@ void AddThumbsCommand(CLI::App& parser, CContext& context);
 void AddStoreCommand(CLI::App& parser, CContext& context);
 void AddExifCommand(CLI::App& parser, CContext& context);
 void AddArchiveCommand(CLI::App& parser, CContext& context);
+void AddCaptionCommand(CLI::App& parser, CContext& context);
+void AddStampCommand(CLI::App& parser, CContext& context);
+void AddRenameCommands(CLI::App& parser, CContext& context);  // rename, undo
 void AddWatchCommand(CLI::App& parser, CContext& context);
 
 // The option that chooses the media types of a list.

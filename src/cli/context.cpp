@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/context.h"
 
+#include "browser/change_journal.h"
+
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -104,6 +106,7 @@ browser::CThumbDbMgr& CContext::Store()
     if (!store) {
         store.emplace(Application().DbFolder());
         store->Load();
+        browser::CChangeJournal(folders.JournalFolder()).Recover(*store);
     }
     return *store;
 }
@@ -151,6 +154,16 @@ std::string AbsolutePath(const std::string& path)
     return absolute;
 }
 
+std::vector<std::string> AbsolutePaths(const std::vector<std::string>& paths)
+{
+    std::vector<std::string> absolute;
+    absolute.reserve(paths.size());
+    for (const std::string& path : paths) {
+        absolute.push_back(AbsolutePath(path));
+    }
+    return absolute;
+}
+
 int Interruption()
 {
     return caughtSignal;
@@ -179,9 +192,9 @@ CProgressBar::CProgressBar(const CContext& context, std::size_t count)
 {
 }
 
-void CProgressBar::Advance()
+void CProgressBar::ShowDone(std::size_t count)
 {
-    ++done;
+    done = count;
     const int percent = total == 0 ? 100 : static_cast<int>(done * 100 / total);
     if (!enabled || percent == shownPercent ||
         std::chrono::steady_clock::now() - start < std::chrono::seconds(1)) {

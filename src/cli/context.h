@@ -51,7 +51,7 @@ public:
     // The data tree of this user, as at the window's start.
     app::CDataFolders& Folders();
     app::CKelvoApp& Application();
-    // The thumbnail store's manager, loaded.
+    // The thumbnail store's manager, loaded, after what killed processes left in the journal was settled.
     browser::CThumbDbMgr& Store();
 
 private:
@@ -90,6 +90,9 @@ void CatchInterruptions();
 // An event that is set when an interruption comes, for commands that wait; null for none.
 void WakeAtInterruption(platform::CEvent* event);
 
+// The files as seen from the root, in their order.
+std::vector<std::string> AbsolutePaths(const std::vector<std::string>& paths);
+
 // A bar on standard error for work that takes longer than a second, when that is a terminal.
 class CProgressBar
 {
@@ -98,7 +101,8 @@ public:
     ~CProgressBar();
     CProgressBar(const CProgressBar&) = delete;
     CProgressBar& operator=(const CProgressBar&) = delete;
-    void Advance();
+    void Advance() { ShowDone(done + 1); }
+    void ShowDone(std::size_t count);
 
 private:
     bool enabled = false;

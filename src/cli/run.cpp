@@ -27,6 +27,9 @@ int Run(int argc, const char* const* argv, const char* version)
     AddStoreCommand(parser, context);
     AddExifCommand(parser, context);
     AddArchiveCommand(parser, context);
+    AddCaptionCommand(parser, context);
+    AddStampCommand(parser, context);
+    AddRenameCommands(parser, context);
     AddWatchCommand(parser, context);
     CatchInterruptions();
     try {

@@ -92,9 +92,9 @@ public:
 
     // Null when none can be had.
     virtual std::unique_ptr<CEvent> CreateEvent() = 0;
-    // Null when the folder cannot be followed. A subtree is followed in those folders of its file system, told
-    // by their paths, for which FollowFolder has been called, before or since: watching every folder of a disk
-    // would take more memory than it is worth. Changes count from that call on.
+    // Null when the folder cannot be followed. A subtree is followed in those folders of its file system,
+    // told by their paths, for which FollowFolder has been called, before or since: watching every folder of
+    // a disk would take more memory than it is worth. Changes count from that call on.
     virtual std::unique_ptr<CChangeNotification> FindFirst(const std::string& folder, WatchDepth depth,
                                                            unsigned filter) = 0;
     virtual std::unique_ptr<CFollowedFolder> FollowFolder(const std::string& folder) = 0;

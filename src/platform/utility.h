@@ -55,6 +55,10 @@ public:
     // The font of a font group: face and height as read; an empty face, or a height that nobody could read,
     // is the interface's.
     virtual LogFont ql_GetLogfont(const std::string& faceName, int size) = 0;
+    // When the file was made, as CFileSystem tells it; 0 when it is not there.
+    virtual FileTime ql_GetFileCreateDate(const std::string& path) = 0;
+    // The present, in universal time as all file times.
+    virtual FileTime ql_GetCurDate() = 0;
     // Milliseconds on a clock that only goes forward.
     virtual std::uint64_t GetTickCount() = 0;
     // A line for the developer: shown on standard error when KELVO_TRACE is set, otherwise dropped.

@@ -51,7 +51,8 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
       menu(new CMainMenu(*this)), left(new CLeftView(folders)),
       right(new CIEShellListView(owner.DbFolder(), SettingsFile(), *menu)), pages(new CViewerPages(right)),
       status(new CStatusBar(this)), panes(new QSplitter(this)),
-      files(new CFileActions(*right->Ctrl(), *left, *this)), bars(*menu, owner.ProgramFolder(), *this),
+      files(new CFileActions(*right->Ctrl(), *left, *this, {owner.DbFolder(), folders.JournalFolder()})),
+      bars(*menu, owner.ProgramFolder(), *this),
       contextMenus(new CContextMenus(
           *menu, [this](app::FrameMessage message, std::int64_t lParam) { SendMessage(message, lParam); },
           this)),

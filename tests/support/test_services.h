@@ -127,6 +127,12 @@ public:
     {
         return {faceName, size, 1};
     }
+    platform::FileTime ql_GetFileCreateDate(const std::string& path) override
+    {
+        const auto facts = platform::Os().files->FindFirstFile(path);
+        return facts ? facts->creationTime : 0;
+    }
+    platform::FileTime ql_GetCurDate() override { return 130'000'000'000'000'000; }
     std::uint64_t GetTickCount() override { return now; }
     void OutputDebugString(const std::string& text) override { trace += text; }
 

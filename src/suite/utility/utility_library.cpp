@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "suite/utility/utility_library.h"
 
+#include "platform/file_system.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
 
@@ -144,6 +145,21 @@ platform::LogFont CUtilityLibrary::ql_GetLogfont(const std::string& faceName, in
     constexpr int kMostHeight = 72;
     const bool readable = size >= kLeastHeight && size <= kMostHeight;
     return {faceName.empty() ? font.faceName : faceName, readable ? size : font.height, font.characterSet};
+}
+
+platform::FileTime CUtilityLibrary::ql_GetFileCreateDate(const std::string& path)
+{
+    const auto facts = platform::Os().files->FindFirstFile(path);
+    return facts ? facts->creationTime : 0;
+}
+
+platform::FileTime CUtilityLibrary::ql_GetCurDate()
+{
+    using namespace std::chrono;
+    constexpr sys_days kEpoch = year{1601} / January / 1;
+    constexpr int kStepsPerMicrosecond = 10;
+    const auto passed = floor<microseconds>(system_clock::now()) - kEpoch;
+    return static_cast<platform::FileTime>(passed.count()) * kStepsPerMicrosecond;
 }
 
 std::uint64_t CUtilityLibrary::GetTickCount()

@@ -34,6 +34,8 @@ public:
                            platform::Extent& out) override;
     void ql_SetFontInfo(const std::string& faceName, int size, int characterSet) override;
     platform::LogFont ql_GetLogfont(const std::string& faceName, int size) override;
+    platform::FileTime ql_GetFileCreateDate(const std::string& path) override;
+    platform::FileTime ql_GetCurDate() override;
     std::uint64_t GetTickCount() override;
     void OutputDebugString(const std::string& text) override;
 

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/files/file_actions.h"
 
+#include "browser/change_journal.h"
 #include "browser/file_names.h"
 #include "platform/services.h"
+#include "ui/background.h"
 #include "ui/controls/message_box.h"
 #include "ui/display_text.h"
 #include "ui/files/file_mime.h"
@@ -55,9 +57,12 @@ bool WorksIn(const browser::FileJobRequest& request, const std::string& folder)
 
 }  // namespace
 
-CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow)
-    : QObject(&mainWindow), list(fileList), left(leftView), window(mainWindow), jobs(&mainWindow)
+CFileActions::CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow,
+                           browser::JobStores jobStores)
+    : QObject(&mainWindow), list(fileList), left(leftView), window(mainWindow), jobs(&mainWindow),
+      stores(std::move(jobStores))
 {
+    ReadJournal();
     connect(&jobs, &CFileJobs::Finished, this, &CFileActions::OnFinished);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
         if (!settingClipboard && !QGuiApplication::clipboard()->ownsClipboard())
@@ -297,7 +302,36 @@ void CFileActions::Start(browser::FileJobRequest request)
         list.Follower().SwallowNextChange();
     for (CIEShellTreeCtrl* tree : left.Trees())
         tree->SwallowNextChange();
+    request.stores = stores;
     jobs.Start(std::move(request));
+}
+
+void CFileActions::Start(FileTask task, std::vector<std::string> paths, CFileJobs::WorkOnFiles work)
+{
+    const std::size_t items = paths.size();
+    asked.push_back({std::move(paths), list.List().Folder(), {}, {}});
+    jobs.Start(task, items, std::move(work));
+}
+
+// Off the window's thread: what a killed process left is settled first.
+void CFileActions::ReadJournal()
+{
+    if (stores.journal.empty())
+        return;
+    const auto read = [held = stores] {
+        browser::CThumbDbMgr manager(held.thumbnails);
+        manager.Load();
+        browser::CChangeJournal journal(held.journal);
+        journal.Recover(manager);
+        std::vector<browser::UndoRecord> records;
+        for (browser::JournalEntry& entry : journal.List())
+            records.push_back(std::move(entry.record));
+        return records;
+    };
+    InBackground(this, read, [this](std::vector<browser::UndoRecord> records) {
+        undo.PushBelow(std::move(records));
+        KeepUndo({});
+    });
 }
 
 void CFileActions::OnFinished(const browser::FileJobReport& report)

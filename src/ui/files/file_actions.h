@@ -31,8 +31,9 @@ class CFileActions : public QObject
     Q_OBJECT
 
 public:
-    // All must outlive the object.
-    CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow);
+    // All must outlive the object. What the journal holds of earlier runs can be undone as well, soon after.
+    CFileActions(CIEShellListCtrl& fileList, CLeftView& leftView, QWidget& mainWindow,
+                 browser::JobStores jobStores);
 
     void Copy();
     void Cut();
@@ -46,6 +47,10 @@ public:
     void Rename();
     void NewFolder();
     void Undo();
+    // Other work, whose report is treated like a job's: told, shown and kept for Undo.
+    void Start(browser::FileTask task, std::vector<std::string> paths, CFileJobs::WorkOnFiles work);
+    void Start(browser::FileJobRequest request);
+    const browser::JobStores& Stores() const { return stores; }
 
     // While the menu is open, its commands on files that would do nothing are disabled.
     void Attend(QMenu& menu, const CMainMenu& commands);
@@ -88,7 +93,7 @@ private:
     void RenameInList();
     void RenameInTree(CFolderTree& tree, const QModelIndex& folder);
     void AskForFolder(const std::string& folder);
-    void Start(browser::FileJobRequest request);
+    void ReadJournal();
     void OnFinished(const browser::FileJobReport& report);
     void KeepUndo(const browser::FileJobReport& report);
     void ShowChanges(const browser::FileJobReport& report, const Asked& asked);
@@ -107,6 +112,7 @@ private:
     CLeftView& left;
     QWidget& window;
     CFileJobs jobs;
+    browser::JobStores stores;
     browser::CUndoList undo;
     std::deque<Asked> asked;
     std::set<std::string> faded;

@@ -42,10 +42,19 @@ CFileJobs::~CFileJobs()
 
 void CFileJobs::Start(browser::FileJobRequest request)
 {
+    const browser::FileTask wanted = request.task;
+    const std::size_t items = request.sources.size();
+    Start(wanted, items, [request = std::move(request)](browser::CFileJobHost& host) {
+        return browser::RunFileJob(request, host);
+    });
+}
+
+void CFileJobs::Start(browser::FileTask wanted, std::size_t items, WorkOnFiles work)
+{
     ++jobsLeft;
     {
         const std::lock_guard lock(mutex);
-        waiting.push_back(std::move(request));
+        waiting.push_back({wanted, items, std::move(work)});
     }
     if (!thread.joinable())
         thread = std::thread([this] { Work(); });
@@ -68,13 +77,13 @@ void CFileJobs::Work()
         changed.wait(lock, [this] { return ending || !waiting.empty(); });
         if (ending)
             return;
-        const browser::FileJobRequest request = std::move(waiting.front());
+        const Job job = std::move(waiting.front());
         waiting.pop_front();
-        task = request.task;
-        latest = {{}, 0, std::max<std::size_t>(1, request.sources.size()), 0};
+        task = job.task;
+        latest = {{}, 0, std::max<std::size_t>(1, job.items), 0};
         cancelled = false;
         lock.unlock();
-        const browser::FileJobReport report = browser::RunFileJob(request, *this);
+        const browser::FileJobReport report = job.work(*this);
         QMetaObject::invokeMethod(this, [this, report] { OnFinished(report); });
         lock.lock();
     }

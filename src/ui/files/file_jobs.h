@@ -14,6 +14,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <thread>
 
@@ -35,6 +36,9 @@ public:
     ~CFileJobs() override;
 
     void Start(browser::FileJobRequest request);
+    // Other work on `items` files, which is told and stopped like a job; `work` runs on the jobs' thread.
+    using WorkOnFiles = std::function<browser::FileJobReport(browser::CFileJobHost&)>;
+    void Start(browser::FileTask task, std::size_t items, WorkOnFiles work);
     // Whether a job is in work or waiting.
     bool IsBusy() const { return jobsLeft > 0; }
     // Stops the job in work.
@@ -44,6 +48,11 @@ Q_SIGNALS:
     void Finished(const browser::FileJobReport& report);
 
 private:
+    struct Job {
+        browser::FileTask task;
+        std::size_t items;
+        WorkOnFiles work;
+    };
     // On the jobs' thread.
     void Work();
     browser::ClashReply AskAboutClash(const browser::Clash& clash) override;
@@ -63,7 +72,7 @@ private:
 
     std::mutex mutex;
     std::condition_variable changed;
-    std::deque<browser::FileJobRequest> waiting;
+    std::deque<Job> waiting;
     browser::FileTask task = browser::FileTask::copy;  // in work
     browser::FileJobProgress latest;
     std::optional<browser::ClashReply> reply;

@@ -37,7 +37,11 @@ QString Heading(browser::FileTask task, std::size_t items)
     case browser::FileTask::remove:
         return Counted(StringId::filesRemoving, count);
     case browser::FileTask::rename:
-        return Text(StringId::filesRenaming);
+        return items == 1 ? Text(StringId::filesRenaming) : Counted(StringId::filesRenamingAll, count);
+    case browser::FileTask::changeTimes:
+        return Counted(StringId::stampChanging, count);
+    case browser::FileTask::setTexts:
+        return Counted(StringId::captionStoring, count);
     case browser::FileTask::makeFolder:
         return Text(StringId::filesMakingFolder);
     case browser::FileTask::makePicture:

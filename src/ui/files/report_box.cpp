@@ -58,7 +58,11 @@ QString Heading(FileTask task, qint64 count)
     case FileTask::remove:
         return Counted(StringId::filesNotRemoved, count);
     case FileTask::rename:
-        return Text(StringId::filesNotRenamed);
+        return count == 1 ? Text(StringId::filesNotRenamed) : Counted(StringId::filesNotAllRenamed, count);
+    case FileTask::changeTimes:
+        return Text(StringId::stampReadOnly);
+    case FileTask::setTexts:
+        return Counted(StringId::captionNotStored, count);
     case FileTask::makeFolder:
         return Text(StringId::filesNoFolderMade);
     case FileTask::makePicture:
@@ -122,7 +126,9 @@ QString UndoText(const browser::UndoRecord* record)
     case FileTask::move:
         return forms(StringId::filesUndoMoveName, StringId::filesUndoMove);
     case FileTask::rename:
-        return Text(StringId::filesUndoRenameName, name);
+        return forms(StringId::filesUndoRenameName, StringId::filesUndoRename);
+    case FileTask::changeTimes:
+        return forms(StringId::stampUndoName, StringId::stampUndo);
     case FileTask::makeFolder:
         return Text(StringId::filesUndoFolderName, name);
     case FileTask::makePicture:
