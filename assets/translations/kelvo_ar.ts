@@ -970,10 +970,6 @@
    <source>The image editors are not part of this version yet</source>
    <translation type="unfinished">محررات الصور ليست جزءًا من هذا الإصدار بعد</translation>
   </message>
-  <message id="missingScreenSaver">
-   <source>The screen saver is not part of this version yet</source>
-   <translation type="unfinished">شاشة التوقف ليست جزءًا من هذا الإصدار بعد</translation>
-  </message>
   <message id="missingTimeStamps">
    <source>Changing time stamps is not part of this version yet</source>
    <translation type="unfinished">تغيير الطوابع الزمنية ليس جزءًا من هذا الإصدار بعد</translation>
@@ -1047,6 +1043,28 @@ Pictures can be printed with the program that opens them: Open With in the list'
   <message id="suiteWarning">
    <source>Warning</source>
    <translation type="unfinished">تحذير</translation>
+  </message>
+  <message id="screenSaverSet">
+   <source>The screen saver shows these pictures from now on.</source>
+   <translation type="unfinished">ستعرض شاشة التوقف هذه الصور من الآن فصاعدًا.</translation>
+  </message>
+  <message id="screenSaverNoPictures">
+   <source>There are no pictures here. Select the pictures, or open the folder, that the screen saver is to show.</source>
+   <translation type="unfinished">لا توجد صور هنا. حدد الصور أو افتح المجلد الذي ستعرضه شاشة التوقف.</translation>
+  </message>
+  <message id="screenSaverMissing">
+   <source>No screen saver that shows pictures is installed: it needs the programs xscreensaver and glslideshow.
+Their packages are usually called xscreensaver and xscreensaver-gl.</source>
+   <translation type="unfinished">لا توجد شاشة توقف مثبتة تعرض الصور: يلزم البرنامجان xscreensaver وglslideshow.
+عادةً ما تسمى حزمتاهما xscreensaver وxscreensaver-gl.</translation>
+  </message>
+  <message id="screenSaverNoScreen">
+   <source>In a Wayland session the desktop alone decides what covers the screen, so there is no screen saver to set. It works in a session under X11.</source>
+   <translation type="unfinished">في جلسة Wayland يقرر سطح المكتب وحده ما يغطي الشاشة، لذلك لا يمكن تعيين شاشة توقف. يعمل ذلك في جلسة X11.</translation>
+  </message>
+  <message id="screenSaverNotWritten">
+   <source>The screen saver could not be set: %1</source>
+   <translation type="unfinished">تعذر تعيين شاشة التوقف: %1</translation>
   </message>
   <message id="captureNothing">
    <source>There is no other window to capture.</source>

@@ -870,10 +870,6 @@
    <source>The image editors are not part of this version yet</source>
    <translation type="unfinished">Die Bildbearbeitung gehört noch nicht zu dieser Version</translation>
   </message>
-  <message id="missingScreenSaver">
-   <source>The screen saver is not part of this version yet</source>
-   <translation type="unfinished">Der Bildschirmschoner gehört noch nicht zu dieser Version</translation>
-  </message>
   <message id="missingTimeStamps">
    <source>Changing time stamps is not part of this version yet</source>
    <translation type="unfinished">Zeitstempel zu ändern gehört noch nicht zu dieser Version</translation>
@@ -947,6 +943,28 @@ Bilder lassen sich mit dem Programm drucken, das sie öffnet: „Öffnen mit“ 
   <message id="suiteWarning">
    <source>Warning</source>
    <translation type="unfinished">Warnung</translation>
+  </message>
+  <message id="screenSaverSet">
+   <source>The screen saver shows these pictures from now on.</source>
+   <translation type="unfinished">Der Bildschirmschoner zeigt von jetzt an diese Bilder.</translation>
+  </message>
+  <message id="screenSaverNoPictures">
+   <source>There are no pictures here. Select the pictures, or open the folder, that the screen saver is to show.</source>
+   <translation type="unfinished">Hier sind keine Bilder. Wählen Sie die Bilder aus oder öffnen Sie den Ordner, die der Bildschirmschoner zeigen soll.</translation>
+  </message>
+  <message id="screenSaverMissing">
+   <source>No screen saver that shows pictures is installed: it needs the programs xscreensaver and glslideshow.
+Their packages are usually called xscreensaver and xscreensaver-gl.</source>
+   <translation type="unfinished">Es ist kein Bildschirmschoner installiert, der Bilder zeigt: Dazu gehören die Programme xscreensaver und glslideshow.
+Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
+  </message>
+  <message id="screenSaverNoScreen">
+   <source>In a Wayland session the desktop alone decides what covers the screen, so there is no screen saver to set. It works in a session under X11.</source>
+   <translation type="unfinished">In einer Wayland-Sitzung bestimmt allein der Desktop, was den Bildschirm bedeckt; deshalb lässt sich kein Bildschirmschoner einstellen. In einer Sitzung unter X11 geht es.</translation>
+  </message>
+  <message id="screenSaverNotWritten">
+   <source>The screen saver could not be set: %1</source>
+   <translation type="unfinished">Der Bildschirmschoner konnte nicht eingestellt werden: %1</translation>
   </message>
   <message id="captureNothing">
    <source>There is no other window to capture.</source>

@@ -78,7 +78,7 @@ constexpr std::array kCommands = {
             missingEditors},
     Command{videoTrim, MenuId::tools, commandVideoTrim, ""},
     Command{slideShow, MenuId::tools, commandSlideShow, "", Mark::none, true},
-    Command{screenSaver, MenuId::tools, commandScreenSaver, "", Mark::none, false, missingScreenSaver},
+    Command{screenSaver, MenuId::tools, commandScreenSaver, ""},
     Command{screenCapture, MenuId::tools, commandScreenCapture, ""},
     Command{changeTimeStamp, MenuId::tools, commandChangeTimeStamp, "", Mark::none, true, missingTimeStamps},
     Command{uploadToPc, MenuId::mobile, commandUploadToPc, "", Mark::none, false, missingHandset},

@@ -23,6 +23,7 @@ class CDevices;
 class CSerialPorts;
 class CPictureSources;
 class CScreen;
+class CScreenSaver;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -40,6 +41,7 @@ struct Services {
     CSerialPorts* serialPorts = nullptr;
     CPictureSources* pictureSources = nullptr;
     CScreen* screen = nullptr;
+    CScreenSaver* screenSaver = nullptr;
 };
 
 inline Services& Os()

@@ -35,6 +35,7 @@ void CLinuxServices::Install()
     os.shell = &shell;
     os.changes = &changes;
     os.libraries = &libraries;
+    os.screenSaver = &screenSaver;
 }
 
 }  // namespace platform_linux

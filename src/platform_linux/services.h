@@ -11,6 +11,7 @@
 #include "platform_linux/linux_file_system.h"
 #include "platform_linux/linux_profiles.h"
 #include "platform_linux/linux_registry.h"
+#include "platform_linux/linux_screen_saver.h"
 #include "platform_linux/linux_shell.h"
 
 namespace platform_linux
@@ -35,6 +36,7 @@ private:
     CLinuxShell shell;
     CLinuxChangeNotifications changes;
     CDynamicLibraries libraries;
+    CLinuxScreenSaver screenSaver;
 };
 
 }  // namespace platform_linux

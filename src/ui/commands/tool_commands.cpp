@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/commands/tool_commands.h"
 
+#include "app/screen_saver.h"
 #include "platform/file_system.h"
 #include "ui/dialogs/options_dialog.h"
 #include "ui/dialogs/select_source_dialog.h"
@@ -19,6 +20,7 @@ CToolCommands::CToolCommands(CCommandRouter& router, CMainFrame& mainFrame)
     RegisterSuite(router);
     router.On(videoTrim, [this] { TrimVideo(); });
     router.On(slideShow, [this] { ShowSlides(); });
+    router.On(screenSaver, [this] { SetScreenSaver(); });
     router.On(screenCapture, [this] { StartCapture(); });
     router.On(selectSource, [this] { SelectSource(); });
     router.On(options, [this] { ShowOptions(); });
@@ -65,6 +67,17 @@ void CToolCommands::ShowSlides()
         frame.Warn(Text(StringId::suiteWarning), Text(StringId::suiteNoClips));
     else if (!frame.Pages()->ShowSlides())
         frame.Tell(Text(StringId::suiteNoShow));
+}
+
+void CToolCommands::SetScreenSaver()
+{
+    const CIEShellListCtrl& list = *frame.List();
+    const app::ScreenSaverAnswer answer = app::MakeScreenSaver(list.List().Folder(), list.SelectedPaths());
+    const QString text = answer.detail.empty() ? Text(answer.text) : Text(answer.text, Shown(answer.detail));
+    if (answer.isSet)
+        frame.Status()->showMessage(text, 10'000);
+    else
+        frame.Tell(text);
 }
 
 void CToolCommands::StartCapture()

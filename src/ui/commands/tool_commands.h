@@ -26,6 +26,7 @@ private:
     void RegisterSuite(CCommandRouter& router);
     void TrimVideo();
     void ShowSlides();
+    void SetScreenSaver();
     void StartCapture();
     void SelectSource();
     void ShowOptions();
