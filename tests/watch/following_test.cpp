@@ -180,6 +180,19 @@ TEST_F(Following, AFolderRemovedUnderAnotherProgramIsGoneAtOnce)
     closedir(held);
 }
 
+TEST_F(Following, WhatIsForgottenEndsNoWaitAndWhatFollowsDoes)
+{
+    const auto notification = FollowList();
+    support::WriteBytes(folder + "/b.jpg", "1");
+
+    EXPECT_TRUE(notification->Forget());
+    EXPECT_FALSE(IsSignalled(*notification));
+    support::WriteBytes(folder + "/c.jpg", "1");
+    EXPECT_TRUE(IsSignalled(*notification, kLong));
+    fs::rename(folder, above + "/other");
+    EXPECT_FALSE(notification->Forget()) << "its end is not overlooked";
+}
+
 TEST_F(Following, ABurstEndsFewWaits)
 {
     const auto notification = FollowList();
@@ -306,6 +319,7 @@ TEST_F(Following, TheListHearsOfChangesThroughAllOfItsFoldersFates)
     watch.PathChanged();
     ASSERT_TRUE(isFollowed(2));
     watch.SetRefreshing(true);
+    watch.ForgetChanges();
     fs::create_directory(above + "/new");
     // Held back until then, or told of at once where the watcher is late.
     watch.SetRefreshing(false);
