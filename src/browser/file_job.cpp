@@ -106,11 +106,6 @@ private:
     {
         if (request.stores.thumbnails.empty())
             return;
-        std::vector<CarriedPath> moved;
-        for (const UndoStep& step : report.undo.steps) {
-            if (step.action == UndoAction::moveBack)
-                moved.push_back({step.origin, step.path});
-        }
         CarryInStore(request.stores.thumbnails, moved, CarryKind::move);
         CarryInStore(request.stores.thumbnails, copied, CarryKind::copy);
     }
@@ -212,20 +207,21 @@ private:
     {
         if (!result.target.empty()) {
             const bool isCopy = request.task == FileTask::copy;
-            Record(isCopy ? UndoAction::takeAway : UndoAction::moveBack, result.target,
-                   isCopy ? std::string() : source);
-            if (isCopy)
-                copied.push_back({source, result.target});
+            const bool isFolder = Record(isCopy ? UndoAction::takeAway : UndoAction::moveBack, result.target,
+                                         isCopy ? std::string() : source);
+            (isCopy ? copied : moved).push_back({source, result.target, isFolder});
             if (std::exchange(isTop, false))
                 report.results.push_back(result.target);
         }
         run.Note(result);
     }
 
-    void Record(UndoAction action, const std::string& path, const std::string& origin)
+    // Whether there is a folder now.
+    bool Record(UndoAction action, const std::string& path, const std::string& origin)
     {
         const auto facts = Os().shell->FindEntry(path);
         report.undo.steps.push_back({action, path, origin, facts ? facts->stamp : platform::FileStamp{}});
+        return facts && facts->isFolder;
     }
 
     void AnswerClash(const std::string& source, const std::string& target)
@@ -322,6 +318,7 @@ private:
     CJobRun run;
     std::unique_ptr<CChangeJournal::COpenEntry> written;
     std::vector<CarriedPath> copied;
+    std::vector<CarriedPath> moved;
     bool isTop = false;  // the item in work is one that the user chose, and nothing is there of it yet
     std::optional<ClashAnswer> answerForFolders;
     std::optional<ClashAnswer> answerForOthers;

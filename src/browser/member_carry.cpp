@@ -39,6 +39,15 @@ bool RemoveForeign(CPackageArchive& opened, const std::string& name, const std::
     return !old || carried.contains(*old) || opened.Remove(*old);
 }
 
+bool IsFolder(const CarriedPath& path)
+{
+    if (path.isFolder) {
+        return *path.isFolder;
+    }
+    const auto entry = platform::Os().shell->FindEntry(path.to);
+    return entry && entry->isFolder;
+}
+
 class CMemberCarry
 {
 public:
@@ -195,8 +204,7 @@ bool CarryMembers(CThumbDbMgr& manager, const std::vector<CarriedPath>& paths, C
     std::map<std::pair<std::string, std::string>, Paths> byFolders;
     bool done = true;
     for (const CarriedPath& path : paths) {
-        const auto entry = platform::Os().shell->FindEntry(path.to);
-        if (entry && entry->isFolder) {
+        if (IsFolder(path)) {
             done = carry.Folder(path) && done;
         } else {
             byFolders[{std::string(FolderOf(path.from)), std::string(FolderOf(path.to))}].push_back(path);

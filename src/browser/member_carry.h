@@ -5,6 +5,7 @@
 
 #include "browser/thumb_db_mgr.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,8 @@ enum class CarryKind {
 
 struct CarriedPath {
     std::string from;
-    std::string to;  // where it is now; looked at to tell a folder from a file
+    std::string to;                     // where it is now
+    std::optional<bool> isFolder = {};  // looked up when not known
 };
 
 // Thumbnails and texts of the files follow them, and so does all of what the store holds of folders. What the

@@ -139,13 +139,20 @@ void CJsonArray::Add(const Json& element)
     CContext::PrintBytes(text);
 }
 
-std::string AbsolutePath(const std::string& path)
+namespace
+{
+
+std::filesystem::path CurrentFolder()
+{
+    std::error_code error;
+    return std::filesystem::current_path(error);
+}
+
+std::string SeenFromRoot(const std::string& path, const std::filesystem::path& current)
 {
     if (path.empty() || path.front() == '/') {
         return path;
     }
-    std::error_code error;
-    const std::filesystem::path current = std::filesystem::current_path(error);
     std::string absolute = (current / path).lexically_normal().native();
     const bool wantsSeparator = path.ends_with('/') && path != "./" && path != "../";
     if (!wantsSeparator && absolute.size() > 1 && absolute.ends_with('/')) {
@@ -154,12 +161,20 @@ std::string AbsolutePath(const std::string& path)
     return absolute;
 }
 
+}  // namespace
+
+std::string AbsolutePath(const std::string& path)
+{
+    return SeenFromRoot(path, CurrentFolder());
+}
+
 std::vector<std::string> AbsolutePaths(const std::vector<std::string>& paths)
 {
+    const std::filesystem::path current = CurrentFolder();
     std::vector<std::string> absolute;
     absolute.reserve(paths.size());
     for (const std::string& path : paths) {
-        absolute.push_back(AbsolutePath(path));
+        absolute.push_back(SeenFromRoot(path, current));
     }
     return absolute;
 }

@@ -102,10 +102,11 @@ platform::FileStepResult DoStep(platform::FileStep step)
     COperationLog log(step.progress);
     platform::FileStepResult result;
     const bool wasTaken = IsTaken(step);
-    const bool needsFree = step.operation == FileOperation::copy || IsSameEntry(step.source, step.target);
+    const bool isBlocked =
+        wasTaken && (step.operation == FileOperation::copy || IsSameEntry(step.source, step.target));
     if (!IsNamed(step.source) || (!step.target.empty() && !IsNamed(step.target)))
         Fail(EINVAL);
-    else if (wasTaken && needsFree)
+    else if (isBlocked)
         Fail(EntryAt(step.source) ? EEXIST : LastFailure());
     else
         result.done = Run(step, log, result.target);
@@ -118,7 +119,7 @@ platform::FileStepResult DoStep(platform::FileStep step)
         result.problems[0].failure = StepFailure(step, reason);
     }
     // What a copy or a move has put at the new name, were it only a part.
-    if (result.target.empty() && (result.done || !wasTaken) && IsTaken(step))
+    if (result.target.empty() && (result.done || (!wasTaken && IsTaken(step))))
         result.target = step.target;
     return result;
 }
