@@ -21,7 +21,7 @@ namespace
 constexpr const char* kSection = "caption";
 constexpr std::size_t kLongestRead = 259;
 // More than anybody enters; a file that claims more is read up to here.
-constexpr int kMostEntries = 20'000;
+constexpr int kMostEntries = 5'000;
 
 std::string AsRead(const std::string& caption)
 {
@@ -72,8 +72,14 @@ bool CCaptionHistory::Remember(const std::string& caption, bool wasGivenToPhoto)
         const std::string text = fmt::format("[{}]\nCount={}\n1={}\n", kSection, 1, caption);
         return files.ReplaceFile(path, std::as_bytes(std::span(text)));
     }
-    const std::vector<std::string> entries = Entries();
-    if (!wasGivenToPhoto || std::ranges::find(entries, AsRead(caption)) != entries.end()) {
+    std::vector<std::string> entries = Entries();
+    // A count beyond belief is put right.
+    const bool isFull = entries.size() == kMostEntries;
+    while (isFull && !entries.empty() && entries.back().empty()) {
+        entries.pop_back();
+    }
+    const bool isKnown = std::ranges::find(entries, AsRead(caption)) != entries.end();
+    if (!wasGivenToPhoto || isKnown || entries.size() == kMostEntries) {
         return true;
     }
     const std::string count = fmt::to_string(entries.size() + 1);

@@ -70,6 +70,34 @@ class Kill(unittest.TestCase):
         result = self.json("thumbs", str(photos))
         self.assertEqual((result["reused"], result["made"]), (kept, 60 - kept))
 
+    def test_captions_renames_and_the_way_back(self):
+        photos = self.work / "photos"
+        photos.mkdir()
+        sample = min(SAMPLES.glob("*.jpg"), key=lambda path: path.stat().st_size).read_bytes()
+        for number in range(40):
+            (photos / f"{number}.jpg").write_bytes(sample + b"%d" % number)
+
+        def photo_list():
+            return sorted(str(path) for path in photos.iterdir())
+
+        def captions():
+            given = self.json("caption", "get", *photo_list())
+            return {Path(item["path"]).read_bytes(): item["caption"] for item in given}
+
+        for number, path in enumerate(photo_list()):
+            self.json("caption", "set", "--caption", f"of {number}", path)
+        whole = captions()
+        for number in range(KILLS):
+            self.killed(0.03, "rename", "--prefix", f"N{number}-", *photo_list())
+            self.assertEqual(captions(), whole, "a caption did not follow its photo")
+            self.killed(0.03, "undo")
+            self.assertEqual(captions(), whole, "a caption did not follow its photo back")
+        for number in range(KILLS):
+            before = captions()
+            self.killed(0.03, "caption", "set", "--caption", f"all {number}", *photo_list())
+            self.assertIn(set(captions().items()),
+                          [set(before.items()), {(key, f"all {number}") for key in before}])
+
     def test_settings(self):
         ini = self.work / "program/Kelvo.ini"
         before = "; a comment that stays\n[Other]\nkey=value\n[Setting]\nSort=0\n"

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The caption history: any bytes are "cap_db.ini". A caption that is remembered is there afterwards, once,
+// beside all that was there before.
+#include "photo/caption_history.h"
+#include "platform_linux/linux_file_system.h"
+#include "platform_linux/linux_profiles.h"
+#include "support/services_guard.h"
+#include "support/temp_folder.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const support::CTempFolder folder;
+    static platform_linux::CLinuxFileSystem files;
+    platform_linux::CLinuxProfiles profiles({}, {});
+    const support::CServicesGuard guard{platform::Services{&files, nullptr, &profiles}};
+    folder.Make("cap_db.ini", std::string(reinterpret_cast<const char*>(data), size));
+    const photo::CCaptionHistory history(folder.Path("ThumbDB"));
+
+    const std::vector<std::string> before = history.Captions();
+    const bool isKept = history.Remember("a caption of the fuzzer", true);
+    const std::vector<std::string> after = history.Captions();
+
+    const bool holdsAll = std::ranges::all_of(before, [&](const std::string& caption) {
+        return std::ranges::count(after, caption) == 1;
+    });
+    const bool isFull = before.size() >= 5'000;
+    if (!holdsAll || (isKept && !isFull && std::ranges::count(after, "a caption of the fuzzer") != 1))
+        std::abort();
+    return 0;
+}
