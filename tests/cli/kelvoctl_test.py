@@ -190,6 +190,54 @@ class Kelvoctl(unittest.TestCase):
         self.assertEqual(self.json("archive", "list", "p.db")["count"], 1)
         self.assertIn(b"kelvoctl: missing: ", added.stderr)
 
+    def test_captions_follow_a_batch_rename_there_and_back(self):
+        names = ["-dash.JPG", "b c.jpg", "f\u00fcr.jpg", "link.lnk"]
+        self.photos(*names)
+        odd = os.fsencode(self.work) + b"/\xff.jpg"
+        Path(os.fsdecode(odd)).write_bytes((self.work / "b c.jpg").read_bytes())
+        self.json("caption", "set", "--caption", "Beach", "--stamp", "2004/05/17", "--", *names[:2], os.fsdecode(odd))
+        self.json("caption", "set", "--second", "two", "b c.jpg")
+        self.assertEqual(self.json("caption", "get", "b c.jpg"), [
+            {"path": "b c.jpg", "caption": "Beach", "timeStamp": "2004/05/17", "secondText": "two"}])
+        self.assertEqual(self.json("caption", "history"), ["Beach"])
+        self.run_it("caption", "set", "--stamp", "2004-05-17", "b c.jpg", status=2)
+
+        plan = self.json("rename", "--dry-run", "--", *names)
+        self.assertEqual([item["renamed"] for item in plan], [False] * 4)
+        done = self.json("rename", "--", *names[:3], "link.lnk", os.fsdecode(odd))
+        self.assertEqual([(item["to"], item["renamed"]) for item in done],
+                         [("Photo0001.jpg", True), ("Photo0002.jpg", True), ("Photo0003.jpg", True),
+                          ("link.lnk", False), (str(self.work / "Photo0004.jpg"), True)])
+        texts = self.json("caption", "get", "Photo0001.jpg", "Photo0003.jpg", "Photo0004.jpg")
+        self.assertEqual([text["caption"] for text in texts], ["Beach", "", "Beach"])
+        self.assertEqual([entry["files"] for entry in self.json("undo", "--list")], [4])
+        self.assertEqual(self.json("undo"), {"undone": 4, "failed": 0})
+        self.assertEqual(self.json("caption", "get", "--", "-dash.JPG")[0]["caption"], "Beach")
+        self.assertEqual(self.json("undo", status=1), {"undone": 0, "failed": 0})
+
+        for prefix, digits, message in (("a:b", "4", b"These characters cann't used in filename:"),
+                                        ("n" * 250, "4", b"Can't rename. The file name or file extension"),
+                                        ("Photo", "17", b"1 to 16")):
+            failed = self.run_it("rename", "--prefix", prefix, "--digits", digits, "b c.jpg", status=2)
+            self.assertIn(message, failed.stderr)
+
+    def test_time_stamps_come_from_each_source(self):
+        self.photos("a.jpg")
+        (self.work / "plain.txt").write_text("no photo")
+        self.env["TZ"] = "UTC"
+        done = self.json("stamp", "--modified", "--created", "--from", "2004-07-15 10:20:30", "a.jpg", "plain.txt")
+        self.assertEqual(done, {"changed": 2, "skipped": 0, "message": None})
+        self.assertEqual((self.work / "a.jpg").stat().st_mtime, 1089886830)
+        self.assertEqual(self.json("stamp", "--modified", "--from", "exif", "plain.txt")["skipped"], 1)
+        failed = self.run_it("--json", "stamp", "--modified", "--from", "now", "gone.jpg", "a.jpg", status=1)
+        self.assertEqual(json.loads(failed.stdout),
+                         {"changed": 1, "skipped": 0, "message": "The read-only file can not be processed."})
+        self.json("undo")
+        self.assertEqual((self.work / "a.jpg").stat().st_mtime, 1089886830)
+        for words in (["--modified", "--from", "2004-02-30 00:00:00"], ["--from", "now"],
+                      ["--created", "--from", "created"]):
+            self.run_it("stamp", *words, "a.jpg", status=2)
+
     def test_an_interruption_stops_between_two_items(self):
         self.photos(*(f"{number}.jpg" for number in range(500)))
         child = subprocess.Popen([KELVOCTL, "thumbs", "."], env=self.env, cwd=self.work, stdout=subprocess.PIPE)
