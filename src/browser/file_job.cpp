@@ -69,8 +69,9 @@ public:
             run.BeginItem(i, request.sources.size());
             DoItem(WithoutSeparator(request.sources[i]), i);
         }
-        Carry();
-        if (written && written->Write(JournalState::done, report.undo) && !report.undo.steps.empty())
+        // What could not follow does so when the journal is settled.
+        const JournalState state = Carry() ? JournalState::done : JournalState::begun;
+        if (written && written->Write(state, report.undo) && !report.undo.steps.empty())
             report.undo.journalNumber = written->Number();
         return std::move(report);
     }
@@ -102,12 +103,13 @@ private:
     }
 
     // What the thumbnail store holds of the files goes with them.
-    void Carry()
+    bool Carry()
     {
-        if (request.stores.thumbnails.empty())
-            return;
-        CarryInStore(request.stores.thumbnails, moved, CarryKind::move);
-        CarryInStore(request.stores.thumbnails, copied, CarryKind::copy);
+        const bool done = CarryInStore(request.stores.thumbnails, moved, CarryKind::move) &&
+                          CarryInStore(request.stores.thumbnails, copied, CarryKind::copy);
+        if (!done)
+            run.Note({request.stores.thumbnails, FileFailure::other, Os().files->LastError()});
+        return done;
     }
 
     void DoItem(const std::string& source, std::size_t number)

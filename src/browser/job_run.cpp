@@ -87,8 +87,9 @@ std::optional<platform::FileProblem> TakeBack(const UndoStep& step, CJobRun& run
     return problem;
 }
 
-// What could not be taken back is told of and given up; what is left after a stop stays in the record.
-void TakeBackAll(FileJobReport& report, CJobRun& run, const JobStores& stores)
+// What could not be taken back is told of and given up; what is left after a stop stays in the record. False
+// when thumbnails and texts could not follow.
+bool TakeBackAll(FileJobReport& report, CJobRun& run, const JobStores& stores)
 {
     std::vector<UndoStep>& left = report.undo.steps;
     std::vector<CarriedPath> moved;
@@ -109,7 +110,10 @@ void TakeBackAll(FileJobReport& report, CJobRun& run, const JobStores& stores)
         if (step.action == UndoAction::moveBack)
             moved.push_back({step.path, step.origin});
     }
-    CarryInStore(stores.thumbnails, moved, CarryKind::move);
+    const bool followed = CarryInStore(stores.thumbnails, moved, CarryKind::move);
+    if (!followed)
+        run.Note({stores.thumbnails, FileFailure::other, Os().files->LastError()});
+    return followed;
 }
 
 }  // namespace
@@ -172,8 +176,8 @@ FileJobReport RunUndo(const UndoRecord& record, const JobStores& stores, CFileJo
         report.undo.steps.clear();
         return report;
     }
-    TakeBackAll(report, run, stores);
-    if (entry)
+    const bool followed = TakeBackAll(report, run, stores);
+    if (entry && followed)
         entry->Write(JournalState::done, report.undo);
     return report;
 }

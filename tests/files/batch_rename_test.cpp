@@ -174,6 +174,25 @@ TEST_F(BatchRename, AKilledBatchIsSettledAtTheNextStart)
     EXPECT_TRUE(journal.List().empty());
 }
 
+TEST_F(BatchRename, CaptionsThatCouldNotFollowDoSoLater)
+{
+    const auto photos = MakeAll({"a.jpg"});
+    Caption(photos, "Beach");
+    const std::string archive = folder.Path("ThumbDB/Tmb0.db");
+    std::filesystem::rename(archive, archive + ".away");
+    std::filesystem::create_directories(archive);
+
+    const auto report = Rename(photos);
+    EXPECT_EQ(report.problems.size(), 1U);
+    EXPECT_EQ(report.undo.steps.size(), 1U);
+    std::filesystem::remove(archive);
+    std::filesystem::rename(archive + ".away", archive);
+    journal.Recover(Manager());
+
+    EXPECT_EQ(CaptionOf(Path("Photo0001.jpg")), "Beach");
+    EXPECT_EQ(journal.Latest()->state, JournalState::done);
+}
+
 TEST_F(BatchRename, TheJournalKeepsTheLatestHundredAndAnyName)
 {
     const std::string odd = "a\tb\nc%41 \xFF\xFE.jpg";
