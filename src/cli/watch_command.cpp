@@ -86,12 +86,10 @@ void Watch(CContext& context, const WatchArguments& arguments, platform::CEvent&
     browser::CListWatch watch(window);
     const std::array<platform::CWaitable*, 2> events = {&interrupted, &posted};
     const auto start = Clock::now();
-    bool wasFollowed = false;
     watch.PathChanged();
     while (platform::Os().changes->WaitForMultipleObjects(events, MillisecondsLeft(arguments, start)) ==
            platform::kWaitObject0 + 1) {
         const browser::Following following = watch.CheckFollowing();
-        wasFollowed = wasFollowed || following == browser::Following::yes;
         if (following == browser::Following::no) {
             // What it has still to tell.
             watch.StopWatcher();
@@ -100,7 +98,9 @@ void Watch(CContext& context, const WatchArguments& arguments, platform::CEvent&
             return;
         }
         if (following == browser::Following::no) {
-            context.Fail(arguments.folder, wasFollowed ? "is no longer there" : "cannot be followed");
+            const bool isThere =
+                platform::Os().files->FindFirstFile(AbsolutePath(arguments.folder)).has_value();
+            context.Fail(arguments.folder, isThere ? "cannot be followed" : "is no longer there");
             return;
         }
     }
