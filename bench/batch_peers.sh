@@ -38,7 +38,7 @@ show() {
 "$program" --quiet caption set --caption "A caption" "$work/ours"/*.jpg
 for ((i = 0; i < rounds; i++)); do
     measure rename "$program" --quiet rename --prefix "Round$i-" "$work/ours"/*.jpg
-    measure perl-rename rename "s/^(Round\\d+-)?/Round$i-/" "$work/theirs"/*.jpg
+    measure perl-rename rename "s{(Round\\d+-)?([^/]*)\$}{Round$i-\$2}" "$work/theirs"/*.jpg
     measure stamp "$program" --quiet stamp --modified --from exif "$work/ours"/*.jpg
 done
 measure exiftool exiftool -q '-FileModifyDate<DateTimeOriginal' "$work/theirs"

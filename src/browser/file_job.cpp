@@ -12,6 +12,7 @@
 
 #include <fmt/format.h>
 
+#include <unordered_map>
 #include <utility>
 
 namespace browser
@@ -86,8 +87,10 @@ private:
         UndoRecord planned = report.undo;
         for (std::size_t i = 0; i < request.sources.size(); ++i) {
             const std::string source = WithoutSeparator(request.sources[i]);
-            if (const auto facts = Os().shell->FindEntry(source))
+            if (const auto facts = Os().shell->FindEntry(source)) {
                 planned.steps.push_back({UndoAction::moveBack, TargetOf(i), source, facts->stamp});
+                known.emplace(source, *facts);
+            }
         }
         if (planned.steps.empty())
             return true;
@@ -221,7 +224,9 @@ private:
     // Whether there is a folder now.
     bool Record(UndoAction action, const std::string& path, const std::string& origin)
     {
-        const auto facts = Os().shell->FindEntry(path);
+        // A new name changes nothing of what is known.
+        const auto before = known.find(origin);
+        const auto facts = before == known.end() ? Os().shell->FindEntry(path) : before->second;
         report.undo.steps.push_back({action, path, origin, facts ? facts->stamp : platform::FileStamp{}});
         return facts && facts->isFolder;
     }
@@ -319,6 +324,7 @@ private:
     FileJobReport report;
     CJobRun run;
     std::unique_ptr<CChangeJournal::COpenEntry> written;
+    std::unordered_map<std::string, platform::EntryFacts> known;  // of what is to be renamed
     std::vector<CarriedPath> copied;
     std::vector<CarriedPath> moved;
     bool isTop = false;  // the item in work is one that the user chose, and nothing is there of it yet

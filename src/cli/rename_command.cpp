@@ -60,7 +60,9 @@ void PrintPlan(CContext& context, const RenameArguments& arguments,
         const std::string to =
             keepsName ? from : from.substr(0, folderSize) + std::string(browser::FileName(plan[i].to));
         const bool done = renamed.contains(plan[i].to);
-        items.push_back({{"from", from}, {"to", to}, {"renamed", done}});
+        if (context.json) {
+            items.push_back({{"from", from}, {"to", to}, {"renamed", done}});
+        }
         if (done || (arguments.dryRun && !keepsName)) {
             context.PrintReport(fmt::format("{}\t{}", from, to));
         }
