@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/journal_file.h"
 
+#include "browser/escaped_text.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <iterator>
 #include <vector>
 
@@ -21,57 +22,6 @@ constexpr std::array<std::string_view, 3> kStates{"begun", "done", "undone"};
 // The kinds of steps that are written down, by their words.
 constexpr std::string_view kMove = "move";
 constexpr std::string_view kTimes = "times";
-
-// A text without the bytes that have a meaning in the file: those become "%" and two hexadecimal digits.
-std::string Escaped(std::string_view text)
-{
-    std::string escaped;
-    escaped.reserve(text.size());
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20 || c == '%') {
-            fmt::format_to(std::back_inserter(escaped), "%{:02x}", byte);
-        } else {
-            escaped.push_back(c);
-        }
-    }
-    return escaped;
-}
-
-template <typename Number> bool ReadNumber(std::string_view text, Number& number, int base = 10)
-{
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
-    return error == std::errc() && end == text.data() + text.size();
-}
-
-std::string Unescaped(std::string_view text)
-{
-    std::string plain;
-    plain.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        unsigned byte = 0;
-        if (text[i] == '%' && i + 2 < text.size() && ReadNumber(text.substr(i + 1, 2), byte, 16)) {
-            plain.push_back(static_cast<char>(byte));
-            i += 2;
-        } else {
-            plain.push_back(text[i]);
-        }
-    }
-    return plain;
-}
-
-std::vector<std::string_view> Split(std::string_view text, char separator)
-{
-    std::vector<std::string_view> parts;
-    for (;;) {
-        const std::size_t end = text.find(separator);
-        parts.push_back(text.substr(0, end));
-        if (end == std::string_view::npos) {
-            return parts;
-        }
-        text.remove_prefix(end + 1);
-    }
-}
 
 bool ReadStep(const std::vector<std::string_view>& fields, UndoStep& step)
 {

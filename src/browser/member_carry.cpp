@@ -39,6 +39,17 @@ bool RemoveForeign(CPackageArchive& opened, const std::string& name, const std::
     return !old || carried.contains(*old) || opened.Remove(*old);
 }
 
+// Under its new name.
+void Note(const archive::PackageMember& member, std::vector<CaptionedFile>& captioned)
+{
+    const MemberTexts texts = CThumbnailStore::TextsOf(member);
+    if (!texts.caption.empty() || !texts.secondText.empty()) {
+        const std::size_t suffix = CThumbnailStore::EntryName({}).size();
+        captioned.push_back({member.name.substr(0, member.name.size() - suffix), member.originalSize,
+                             member.lastWriteTime, texts});
+    }
+}
+
 bool IsFolder(const CarriedPath& path)
 {
     if (path.isFolder) {
@@ -96,10 +107,14 @@ private:
         for (const auto& [position, name] : renamings) {
             done = RemoveForeign(opened, name, carried) && done;
         }
+        std::vector<CaptionedFile> captioned;
         for (const auto& [position, name] : renamings) {
             done = opened.SetName(position, name) && done;
+            Note(opened.Member(position), captioned);
         }
-        return opened.Close(!renamings.empty()) && done;
+        done = opened.Close(!renamings.empty()) && done;
+        store.Book().Record(captioned);
+        return done;
     }
 
     bool Transfer(const std::string& fromFolder, const std::string& toFolder,
@@ -114,11 +129,14 @@ private:
         if (!store.OpenForAdding(target, toFolder)) {
             return false;
         }
+        std::vector<CaptionedFile> captioned;
         for (const RawMember& member : members) {
+            Note(member.record, captioned);
             done = RemoveForeign(target, member.record.name, {}) && done;
             done = target.AddRaw(member) && done;
         }
         target.Close(false);
+        store.Book().Record(captioned);
         return done && (kind == CarryKind::copy || Drop(fromFolder, paths));
     }
 

@@ -41,7 +41,7 @@ bool HasTexts(const PackageMember& member)
     return !member.caption.empty() || !member.secondText.empty() || !member.timeStampText.empty();
 }
 
-bool IsCurrent(const PackageMember& member, const platform::FileFacts& facts)
+bool IsCurrent(const PackageMember& member, const archive::SourceFacts& facts)
 {
     return facts.size == 0 ||
            (facts.creationTime == member.creationTime && facts.lastWriteTime == member.lastWriteTime &&
@@ -73,32 +73,16 @@ LoadedEntry LoadEntry(CPackageArchive& opened, std::size_t index)
     return loaded;
 }
 
-// Adds the thumbnail in the temporary file in the place of the member that the photo has, if it has one.
-bool PutInPlace(CPackageArchive& opened, const std::string& temporary, const platform::FileFacts& facts,
-                archive::AddOptions options)
-{
-    const auto old = opened.FindExact(options.memberName);
-    // A member that still is good was only unreadable at the moment.
-    if (old && IsCurrent(opened.Member(*old), facts) && opened.Member(*old).storedSize > 0) {
-        return false;
-    }
-    if (old) {
-        const PackageMember& member = opened.Member(*old);
-        options.caption = member.caption;
-        options.secondText = member.secondText;
-        const bool isUsers = !member.caption.empty() || !member.secondText.empty();
-        if (isUsers || options.timeStampText.empty()) {
-            options.timeStampText = member.timeStampText;
-        }
-    }
-    return opened.AddFile(temporary, options) && (!old || opened.Remove(*old));
-}
-
 }  // namespace
 
 std::string CThumbnailStore::EntryName(const std::string& path)
 {
     return std::string(FileName(path)).append(kEntrySuffix);
+}
+
+MemberTexts CThumbnailStore::TextsOf(const PackageMember& member)
+{
+    return {member.caption, member.timeStampText, member.secondText};
 }
 
 std::optional<std::size_t> CThumbnailStore::FindMember(const CPackageArchive& opened, const std::string& path)
@@ -131,7 +115,7 @@ std::optional<StoredThumbnail> CThumbnailStore::Fetch(const std::string& path,
     std::optional<StoredThumbnail> stored;
     if (const auto index = FindMember(opened, path)) {
         const PackageMember& member = opened.Member(*index);
-        const bool isCurrent = IsCurrent(member, facts);
+        const bool isCurrent = IsCurrent(member, {facts.creationTime, facts.lastWriteTime, facts.size});
         LoadedEntry loaded = isCurrent ? LoadEntry(opened, *index) : LoadedEntry{};
         if (!isCurrent || loaded.isDamaged) {
             Retire(opened, *index, loaded.isDamaged);
@@ -176,10 +160,41 @@ bool CThumbnailStore::Keep(const std::string& path, const platform::Bitmap& bitm
     options.timeStampText = dateText;
     options.memberName = entryName;
     const bool kept = OpenForAdding(opened, std::string(FolderOf(path))) &&
-                      PutInPlace(opened, temporary, facts, std::move(options));
+                      PutInPlace(opened, temporary, path, std::move(options));
     opened.Close(false);
     Files().DeleteFile(temporary);
     return kept;
+}
+
+// Adds the thumbnail in the temporary file in the place of the member that the photo has, if it has one.
+bool CThumbnailStore::PutInPlace(CPackageArchive& opened, const std::string& temporary,
+                                 const std::string& path, archive::AddOptions options)
+{
+    const archive::SourceFacts facts = options.facts.value_or(archive::SourceFacts());
+    const auto old = opened.FindExact(options.memberName);
+    // A member that still is good was only unreadable at the moment.
+    if (old && IsCurrent(opened.Member(*old), facts) && opened.Member(*old).storedSize > 0) {
+        return false;
+    }
+    const std::string name(FileName(path));
+    CaptionedFile captioned{name, facts.size, facts.lastWriteTime,
+                            old ? TextsOf(opened.Member(*old))
+                                : book.Find(name, facts.size, facts.lastWriteTime)};
+    MemberTexts& texts = captioned.texts;
+    const bool isUsers = !texts.caption.empty() || !texts.secondText.empty();
+    if (!isUsers && !options.timeStampText.empty()) {
+        texts.timeStamp = options.timeStampText;
+    }
+    options.caption = texts.caption;
+    options.secondText = texts.secondText;
+    options.timeStampText = texts.timeStamp;
+    if (!opened.AddFile(temporary, options) || (old && !opened.Remove(*old))) {
+        return false;
+    }
+    if (isUsers) {
+        book.Record(std::span(&captioned, 1));
+    }
+    return true;
 }
 
 bool CThumbnailStore::OpenForAdding(CPackageArchive& opened, const std::string& folder) const

@@ -4,6 +4,7 @@
 // unchanged.
 #pragma once
 
+#include "browser/caption_book.h"
 #include "browser/thumb_db_mgr.h"
 #include "platform/image.h"
 
@@ -13,7 +14,9 @@
 namespace archive
 {
 class CPackageArchive;
-}
+struct AddOptions;
+struct PackageMember;
+}  // namespace archive
 
 namespace browser
 {
@@ -27,7 +30,7 @@ struct StoredThumbnail {
 class CThumbnailStore
 {
 public:
-    explicit CThumbnailStore(CThumbDbMgr& owner) : manager(owner) {}
+    explicit CThumbnailStore(CThumbDbMgr& owner) : manager(owner), book(owner.DbFolder()) {}
 
     // Opens the archive of a folder for changes, making it when there is none. It is closed by the caller, or
     // by its end.
@@ -38,14 +41,17 @@ public:
     // for Keep.
     std::optional<StoredThumbnail> Fetch(const std::string& path, const platform::FileFacts& facts);
     // Keeps a thumbnail; false when the store cannot take it. It takes over the texts of the member whose
-    // place it takes; a date alone gives way to `dateText`.
+    // place it takes, or without one those that the book has; a date alone gives way to `dateText`.
     bool Keep(const std::string& path, const platform::Bitmap& bitmap, const platform::FileFacts& facts,
               platform::FileTime thirdTime, const std::string& dateText);
     // Sets the three texts of a member; false when the archive or the member is missing.
     bool SetTexts(const std::string& path, const std::string& entryName, const std::string& caption,
                   const std::string& timeStampText, const std::string& secondText);
 
+    CCaptionBook& Book() { return book; }
+
     static std::string EntryName(const std::string& path);
+    static MemberTexts TextsOf(const archive::PackageMember& member);
     // The member of that file: the one of exactly its name, else one whose name differs in case only and
     // belongs to no file of its own.
     static std::optional<std::size_t> FindMember(const archive::CPackageArchive& opened,
@@ -55,7 +61,11 @@ private:
     bool OpenOrMake(archive::CPackageArchive& opened, const std::string& archivePath) const;
     static void Retire(archive::CPackageArchive& opened, std::size_t index, bool isDamaged);
 
+    bool PutInPlace(archive::CPackageArchive& opened, const std::string& temporary, const std::string& path,
+                    archive::AddOptions options);
+
     CThumbDbMgr& manager;
+    CCaptionBook book;
 };
 
 }  // namespace browser

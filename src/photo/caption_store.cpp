@@ -29,8 +29,7 @@ PhotoTexts TextsOf(const CPackageArchive& opened, const std::string& path)
     if (!found) {
         return {};
     }
-    const archive::PackageMember& member = opened.Member(*found);
-    return {member.caption, member.timeStampText, member.secondText};
+    return CThumbnailStore::TextsOf(opened.Member(*found));
 }
 
 bool IsTooLong(const std::optional<std::string>& text)
@@ -129,8 +128,7 @@ std::vector<bool> CCaptionStore::FindHeld(const std::string& folder, const Group
 }
 
 // All of them or none; why not, or an empty text.
-std::string CCaptionStore::WriteTexts(const std::string& folder, const Group& paths,
-                                      const TextChange& change) const
+std::string CCaptionStore::WriteTexts(const std::string& folder, const Group& paths, const TextChange& change)
 {
     CPackageArchive opened;
     if (paths.empty()) {
@@ -139,6 +137,7 @@ std::string CCaptionStore::WriteTexts(const std::string& folder, const Group& pa
     if (!store.OpenForAdding(opened, folder)) {
         return opened.Error().empty() ? kNoStore : opened.Error();
     }
+    std::vector<browser::CaptionedFile> captioned;
     for (const std::string& path : paths) {
         const auto found = CThumbnailStore::FindMember(opened, path);
         if (!found) {
@@ -148,8 +147,16 @@ std::string CCaptionStore::WriteTexts(const std::string& folder, const Group& pa
         opened.SetTexts(*found, change.caption.value_or(member.caption),
                         change.timeStamp.value_or(member.timeStampText),
                         change.secondText.value_or(member.secondText));
+        if (const auto facts = Os().files->FindFirstFile(path)) {
+            captioned.push_back({std::string(browser::FileName(path)), facts->size, facts->lastWriteTime,
+                                 CThumbnailStore::TextsOf(member)});
+        }
     }
-    return opened.Close(true) ? std::string() : opened.Error();
+    if (!opened.Close(true)) {
+        return opened.Error();
+    }
+    store.Book().Record(captioned);
+    return {};
 }
 
 // Why not, or an empty text. A picture that nothing can be made of gets a member without data, which holds

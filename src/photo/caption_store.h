@@ -18,12 +18,8 @@
 namespace photo
 {
 
-struct PhotoTexts {
-    std::string caption;
-    std::string timeStamp;  // "2004/05/17"
-    std::string secondText;
-    bool operator==(const PhotoTexts&) const = default;
-};
+// The time stamp is a day, "2004/05/17".
+using PhotoTexts = browser::MemberTexts;
 
 // What is not given keeps its value; an empty text clears it.
 struct TextChange {
@@ -55,7 +51,7 @@ private:
     void SetInFolder(const std::string& folder, const Group& paths, const TextChange& change,
                      CaptionReport& report);
     std::vector<bool> FindHeld(const std::string& folder, const Group& paths) const;
-    std::string WriteTexts(const std::string& folder, const Group& paths, const TextChange& change) const;
+    std::string WriteTexts(const std::string& folder, const Group& paths, const TextChange& change);
     std::string MakeMember(const std::string& path) const;
 
     browser::CThumbDbMgr& manager;

@@ -4,6 +4,7 @@
 #include "photo/caption_history.h"
 #include "photo_fixture.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
@@ -77,6 +78,37 @@ TEST_F(Captions, ADateAloneGivesWayToTheNewPhotographsDate)
     FetchThumbnail(photo);
 
     EXPECT_EQ(photo::CCaptionStore(Manager()).Get(photo).timeStamp, "2001/02/03");
+}
+
+TEST_F(Captions, APhotoWhoseArchiveIsLostGetsItsTextsBack)
+{
+    const std::string photo = Make("a.jpg");
+    const std::string bare = Make("b.jpg", "300x300");
+    Caption({photo, bare}, "Beach");
+    photo::CCaptionStore(Manager()).Set({bare}, {"", "", {}}, host);
+    std::ofstream(folder.Path("captions.tsv"), std::ios::app) << "a line that a kill cut o";
+    Run({FileTask::rename, {photo}, Path("c.jpg"), {}, {}});
+
+    std::filesystem::remove_all(folder.Path("ThumbDB"));
+    std::filesystem::rename(folder.Path("p"), folder.Path("elsewhere"));
+    for (const char* name : {"elsewhere/b.jpg", "elsewhere/c.jpg"})
+        FetchThumbnail(folder.Path(name));
+
+    EXPECT_EQ(CaptionOf(folder.Path("elsewhere/c.jpg")), "Beach");
+    EXPECT_EQ(CaptionOf(folder.Path("elsewhere/b.jpg")), "");
+}
+
+TEST_F(Captions, TheBookStaysShortHoweverOftenACaptionChanges)
+{
+    browser::CCaptionBook book(stores.thumbnails);
+    for (int i = 0; i < 1'200; ++i) {
+        const browser::CaptionedFile file{"a%\t.jpg", 1, 2, {std::to_string(i), "", "x\ny"}};
+        ASSERT_TRUE(book.Record(std::span(&file, 1)));
+    }
+
+    EXPECT_LT(std::filesystem::file_size(folder.Path("captions.tsv")), 40'000U);
+    EXPECT_EQ(browser::CCaptionBook(stores.thumbnails).Find("a%\t.jpg", 1, 2),
+              (PhotoTexts{"1199", "", "x\ny"}));
 }
 
 TEST_F(Captions, FollowTheirPhotosAndFoldersThroughTheProgramsOwnWork)
