@@ -215,8 +215,8 @@
    <translation type="unfinished">الوصول إلى الماسحات يتم عبر SANE، وهو غير مثبت أو لا يعمل.</translation>
   </message>
   <message id="commandRename">
-   <source>Rename</source>
-   <translation type="unfinished">إعادة تسمية</translation>
+   <source>Rename...</source>
+   <translation type="unfinished">إعادة تسمية...</translation>
   </message>
   <message id="commandNewFolder">
    <source>New Folder...</source>
@@ -970,10 +970,6 @@
    <source>The image editors are not part of this version yet</source>
    <translation type="unfinished">محررات الصور ليست جزءًا من هذا الإصدار بعد</translation>
   </message>
-  <message id="missingTimeStamps">
-   <source>Changing time stamps is not part of this version yet</source>
-   <translation type="unfinished">تغيير الطوابع الزمنية ليس جزءًا من هذا الإصدار بعد</translation>
-  </message>
   <message id="missingHandset">
    <source>Exchange with the handset is not part of this version yet</source>
    <translation type="unfinished">التبادل مع الهاتف ليس جزءًا من هذا الإصدار بعد</translation>
@@ -1244,6 +1240,122 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <source>Can't rename. The file name or file extension is too long.</source>
    <translation type="unfinished">تتعذر إعادة التسمية. اسم الملف أو امتداده طويل جدًا.</translation>
   </message>
+  <message id="renameTitle">
+   <source>Rename</source>
+   <translation type="unfinished">إعادة التسمية</translation>
+  </message>
+  <message id="renamePrefix">
+   <source>&amp;Prefix :</source>
+   <translation type="unfinished">&amp;البادئة:</translation>
+  </message>
+  <message id="renamePrefixTip">
+   <source>The new names begin with this text</source>
+   <translation type="unfinished">تبدأ الأسماء الجديدة بهذا النص</translation>
+  </message>
+  <message id="renameDigits">
+   <source>&amp;digits</source>
+   <translation type="unfinished">عدد الأر&amp;قام:</translation>
+  </message>
+  <message id="renameDigitsTip">
+   <source>How many digits the number has at least, with zeros in front</source>
+   <translation type="unfinished">أقل عدد من الأرقام في الرقم التسلسلي، تسبقه أصفار</translation>
+  </message>
+  <message id="renameDigitsRange">
+   <source>1 to 16</source>
+   <translation type="unfinished">من 1 إلى 16</translation>
+  </message>
+  <message id="renameSample">
+   <source>Sample: %1</source>
+   <translation type="unfinished">مثال: %1</translation>
+  </message>
+  <message id="renameOldName">
+   <source>Old name</source>
+   <translation type="unfinished">الاسم القديم</translation>
+  </message>
+  <message id="renameNewName">
+   <source>New name</source>
+   <translation type="unfinished">الاسم الجديد</translation>
+  </message>
+  <message id="renameNote">
+   <source>Note</source>
+   <translation type="unfinished">ملاحظة</translation>
+  </message>
+  <message id="renameTaken">
+   <source>Taken: another number</source>
+   <translation type="unfinished">محجوز: رقم آخر</translation>
+  </message>
+  <message id="renameTakenTip">
+   <source>The name that the next number gives is there already, so this file gets one with a second number</source>
+   <translation type="unfinished">الاسم الذي يعطيه الرقم التالي موجود من قبل، فيحصل هذا الملف على اسم برقم ثانٍ</translation>
+  </message>
+  <message id="renameKeeps">
+   <source>Keeps its name</source>
+   <translation type="unfinished">يحتفظ باسمه</translation>
+  </message>
+  <message id="renameKeepsTip">
+   <source>Search results (asr) and shortcuts (lnk) are not renamed</source>
+   <translation type="unfinished">لا تعاد تسمية نتائج البحث (asr) والاختصارات (lnk)</translation>
+  </message>
+  <message id="renamePlan">
+   <source>Old and new names</source>
+   <translation type="unfinished">الأسماء القديمة والجديدة</translation>
+  </message>
+  <message id="renameLooking">
+   <source>Looking for names that are taken…</source>
+   <translation type="unfinished">يجري البحث عن الأسماء المحجوزة…</translation>
+  </message>
+  <message id="renameFiles" numerus="yes">
+   <source>%1 files</source>
+   <translation type="unfinished">
+    <numerusform>%1 ملف</numerusform>
+    <numerusform>ملف واحد</numerusform>
+    <numerusform>ملفان</numerusform>
+    <numerusform>%1 ملفات</numerusform>
+    <numerusform>%1 ملفًا</numerusform>
+    <numerusform>%1 ملف</numerusform>
+   </translation>
+  </message>
+  <message id="renameClashes" numerus="yes">
+   <source>%1 get another number because the name is taken</source>
+   <translation type="unfinished">
+    <numerusform>%1 ملف يحصل على رقم آخر لأن الاسم محجوز</numerusform>
+    <numerusform>ملف واحد يحصل على رقم آخر لأن الاسم محجوز</numerusform>
+    <numerusform>ملفان يحصلان على رقم آخر لأن الاسم محجوز</numerusform>
+    <numerusform>%1 ملفات تحصل على رقم آخر لأن الاسم محجوز</numerusform>
+    <numerusform>%1 ملفًا يحصل على رقم آخر لأن الاسم محجوز</numerusform>
+    <numerusform>%1 ملف يحصل على رقم آخر لأن الاسم محجوز</numerusform>
+   </translation>
+  </message>
+  <message id="renameKept" numerus="yes">
+   <source>%1 keep their names</source>
+   <translation type="unfinished">
+    <numerusform>%1 ملف يحتفظ باسمه</numerusform>
+    <numerusform>ملف واحد يحتفظ باسمه</numerusform>
+    <numerusform>ملفان يحتفظان باسميهما</numerusform>
+    <numerusform>%1 ملفات تحتفظ بأسمائها</numerusform>
+    <numerusform>%1 ملفًا يحتفظ باسمه</numerusform>
+    <numerusform>%1 ملف يحتفظ باسمه</numerusform>
+   </translation>
+  </message>
+  <message id="renameAnd">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1، %2</translation>
+  </message>
+  <message id="renameOnlyTaken">
+   <source>&amp;Show only files whose name was taken</source>
+   <translation type="unfinished">إظهار الملفات ال&amp;تي كان اسمها محجوزًا فقط</translation>
+  </message>
+  <message id="renameDo" numerus="yes">
+   <source>&amp;Rename %1 Files</source>
+   <translation type="unfinished">
+    <numerusform>إعادة &amp;تسمية %1 ملف</numerusform>
+    <numerusform>إعادة &amp;تسمية ملف واحد</numerusform>
+    <numerusform>إعادة &amp;تسمية ملفين</numerusform>
+    <numerusform>إعادة &amp;تسمية %1 ملفات</numerusform>
+    <numerusform>إعادة &amp;تسمية %1 ملفًا</numerusform>
+    <numerusform>إعادة &amp;تسمية %1 ملف</numerusform>
+   </translation>
+  </message>
   <message id="skinTabs">
    <source>Places</source>
    <translation type="unfinished">الأماكن</translation>
@@ -1292,6 +1404,133 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
     <numerusform>التراجع عن أختام الوقت لـ %1 عناصر</numerusform>
     <numerusform>التراجع عن أختام الوقت لـ %1 عنصرًا</numerusform>
     <numerusform>التراجع عن أختام الوقت لـ %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="stampTitle">
+   <source>Change Time Stamp</source>
+   <translation type="unfinished">تغيير الطابع الزمني</translation>
+  </message>
+  <message id="stampNothing">
+   <source>Select the files whose time stamps are to be changed.</source>
+   <translation type="unfinished">حدّد أولًا الملفات التي ستتغيّر طوابعها الزمنية.</translation>
+  </message>
+  <message id="stampWhat" numerus="yes">
+   <source>Time stamps of %1 files</source>
+   <translation type="unfinished">
+    <numerusform>الطوابع الزمنية لـ %1 ملف</numerusform>
+    <numerusform>الطوابع الزمنية لملف واحد</numerusform>
+    <numerusform>الطوابع الزمنية لملفين</numerusform>
+    <numerusform>الطوابع الزمنية لـ %1 ملفات</numerusform>
+    <numerusform>الطوابع الزمنية لـ %1 ملفًا</numerusform>
+    <numerusform>الطوابع الزمنية لـ %1 ملف</numerusform>
+   </translation>
+  </message>
+  <message id="stampCreation">
+   <source>&amp;Creation time</source>
+   <translation type="unfinished">وقت الإ&amp;نشاء</translation>
+  </message>
+  <message id="stampModified">
+   <source>Last &amp;modified time</source>
+   <translation type="unfinished">وقت آخر &amp;تعديل</translation>
+  </message>
+  <message id="stampFromCreation">
+   <source>The date the &amp;file was created</source>
+   <translation type="unfinished">تاريخ إنشاء ال&amp;ملف</translation>
+  </message>
+  <message id="stampFromCreationTip">
+   <source>A creation time cannot be set from itself</source>
+   <translation type="unfinished">لا يمكن ضبط وقت الإنشاء من نفسه</translation>
+  </message>
+  <message id="stampFromNow">
+   <source>Current date and &amp;time</source>
+   <translation type="unfinished">التاريخ والوقت ال&amp;حاليان</translation>
+  </message>
+  <message id="stampFromExif">
+   <source>&amp;EXIF date, if available</source>
+   <translation type="unfinished">تاريخ &amp;EXIF إن وُجد</translation>
+  </message>
+  <message id="stampFromExifIn">
+   <source>&amp;EXIF date, if available (in %1 of %2)</source>
+   <translation type="unfinished">تاريخ &amp;EXIF إن وُجد (في %1 من %2)</translation>
+  </message>
+  <message id="stampFromPicked">
+   <source>T&amp;his date and time:</source>
+   <translation type="unfinished">&amp;هذا التاريخ والوقت:</translation>
+  </message>
+  <message id="stampDate">
+   <source>Date</source>
+   <translation type="unfinished">التاريخ</translation>
+  </message>
+  <message id="stampTime">
+   <source>Time</source>
+   <translation type="unfinished">الوقت</translation>
+  </message>
+  <message id="stampLooking">
+   <source>Looking for EXIF dates…</source>
+   <translation type="unfinished">يجري البحث عن تواريخ EXIF…</translation>
+  </message>
+  <message id="stampNoFlag">
+   <source>Choose which of the two times to change.</source>
+   <translation type="unfinished">اختر أيّ الوقتين سيتغيّر.</translation>
+  </message>
+  <message id="stampNoDate">
+   <source>This date cannot be set.</source>
+   <translation type="unfinished">لا يمكن ضبط هذا التاريخ.</translation>
+  </message>
+  <message id="stampSetsModified" numerus="yes">
+   <source>The modification time of %1 files becomes %2.</source>
+   <translation type="unfinished">
+    <numerusform>يصبح وقت تعديل %1 ملف: %2.</numerusform>
+    <numerusform>يصبح وقت تعديل ملف واحد: %2.</numerusform>
+    <numerusform>يصبح وقت تعديل ملفين: %2.</numerusform>
+    <numerusform>يصبح وقت تعديل %1 ملفات: %2.</numerusform>
+    <numerusform>يصبح وقت تعديل %1 ملفًا: %2.</numerusform>
+    <numerusform>يصبح وقت تعديل %1 ملف: %2.</numerusform>
+   </translation>
+  </message>
+  <message id="stampSetsCreation" numerus="yes">
+   <source>The creation time of %1 files becomes %2.</source>
+   <translation type="unfinished">
+    <numerusform>يصبح وقت إنشاء %1 ملف: %2.</numerusform>
+    <numerusform>يصبح وقت إنشاء ملف واحد: %2.</numerusform>
+    <numerusform>يصبح وقت إنشاء ملفين: %2.</numerusform>
+    <numerusform>يصبح وقت إنشاء %1 ملفات: %2.</numerusform>
+    <numerusform>يصبح وقت إنشاء %1 ملفًا: %2.</numerusform>
+    <numerusform>يصبح وقت إنشاء %1 ملف: %2.</numerusform>
+   </translation>
+  </message>
+  <message id="stampSetsBoth" numerus="yes">
+   <source>The creation and modification times of %1 files become %2.</source>
+   <translation type="unfinished">
+    <numerusform>يصبح وقتا إنشاء وتعديل %1 ملف: %2.</numerusform>
+    <numerusform>يصبح وقتا إنشاء وتعديل ملف واحد: %2.</numerusform>
+    <numerusform>يصبح وقتا إنشاء وتعديل ملفين: %2.</numerusform>
+    <numerusform>يصبح وقتا إنشاء وتعديل %1 ملفات: %2.</numerusform>
+    <numerusform>يصبح وقتا إنشاء وتعديل %1 ملفًا: %2.</numerusform>
+    <numerusform>يصبح وقتا إنشاء وتعديل %1 ملف: %2.</numerusform>
+   </translation>
+  </message>
+  <message id="stampToCreation">
+   <source>the time at which each was created</source>
+   <translation type="unfinished">وقت إنشاء كل ملف</translation>
+  </message>
+  <message id="stampToNow">
+   <source>the present time</source>
+   <translation type="unfinished">الوقت الحالي</translation>
+  </message>
+  <message id="stampToExif">
+   <source>the EXIF date of each</source>
+   <translation type="unfinished">تاريخ EXIF لكل ملف</translation>
+  </message>
+  <message id="stampLeft" numerus="yes">
+   <source>%1 files have no EXIF date and are left as they are.</source>
+   <translation type="unfinished">
+    <numerusform>%1 ملف بلا تاريخ EXIF ويبقى كما هو.</numerusform>
+    <numerusform>ملف واحد بلا تاريخ EXIF ويبقى كما هو.</numerusform>
+    <numerusform>ملفان بلا تاريخ EXIF ويبقيان كما هما.</numerusform>
+    <numerusform>%1 ملفات بلا تاريخ EXIF وتبقى كما هي.</numerusform>
+    <numerusform>%1 ملفًا بلا تاريخ EXIF ويبقى كما هو.</numerusform>
+    <numerusform>%1 ملف بلا تاريخ EXIF ويبقى كما هو.</numerusform>
    </translation>
   </message>
   <message id="statusFiles" numerus="yes">

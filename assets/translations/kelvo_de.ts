@@ -195,8 +195,8 @@
    <translation type="unfinished">Scanner werden über SANE erreicht, das nicht installiert ist oder nicht startet.</translation>
   </message>
   <message id="commandRename">
-   <source>Rename</source>
-   <translation type="unfinished">Umbenennen</translation>
+   <source>Rename...</source>
+   <translation type="unfinished">Umbenennen...</translation>
   </message>
   <message id="commandNewFolder">
    <source>New Folder...</source>
@@ -870,10 +870,6 @@
    <source>The image editors are not part of this version yet</source>
    <translation type="unfinished">Die Bildbearbeitung gehört noch nicht zu dieser Version</translation>
   </message>
-  <message id="missingTimeStamps">
-   <source>Changing time stamps is not part of this version yet</source>
-   <translation type="unfinished">Zeitstempel zu ändern gehört noch nicht zu dieser Version</translation>
-  </message>
   <message id="missingHandset">
    <source>Exchange with the handset is not part of this version yet</source>
    <translation type="unfinished">Der Austausch mit dem Handy gehört noch nicht zu dieser Version</translation>
@@ -1144,6 +1140,106 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <source>Can't rename. The file name or file extension is too long.</source>
    <translation type="unfinished">Umbenennen nicht möglich. Der Dateiname oder die Dateiendung ist zu lang.</translation>
   </message>
+  <message id="renameTitle">
+   <source>Rename</source>
+   <translation type="unfinished">Umbenennen</translation>
+  </message>
+  <message id="renamePrefix">
+   <source>&amp;Prefix :</source>
+   <translation type="unfinished">&amp;Anfang:</translation>
+  </message>
+  <message id="renamePrefixTip">
+   <source>The new names begin with this text</source>
+   <translation type="unfinished">Die neuen Namen beginnen mit diesem Text</translation>
+  </message>
+  <message id="renameDigits">
+   <source>&amp;digits</source>
+   <translation type="unfinished">&amp;Ziffern:</translation>
+  </message>
+  <message id="renameDigitsTip">
+   <source>How many digits the number has at least, with zeros in front</source>
+   <translation type="unfinished">Wie viele Ziffern die Nummer mindestens hat, mit Nullen davor</translation>
+  </message>
+  <message id="renameDigitsRange">
+   <source>1 to 16</source>
+   <translation type="unfinished">1 bis 16</translation>
+  </message>
+  <message id="renameSample">
+   <source>Sample: %1</source>
+   <translation type="unfinished">Beispiel: %1</translation>
+  </message>
+  <message id="renameOldName">
+   <source>Old name</source>
+   <translation type="unfinished">Alter Name</translation>
+  </message>
+  <message id="renameNewName">
+   <source>New name</source>
+   <translation type="unfinished">Neuer Name</translation>
+  </message>
+  <message id="renameNote">
+   <source>Note</source>
+   <translation type="unfinished">Bemerkung</translation>
+  </message>
+  <message id="renameTaken">
+   <source>Taken: another number</source>
+   <translation type="unfinished">Vergeben: andere Nummer</translation>
+  </message>
+  <message id="renameTakenTip">
+   <source>The name that the next number gives is there already, so this file gets one with a second number</source>
+   <translation type="unfinished">Den Namen mit der nächsten Nummer gibt es schon, daher erhält diese Datei einen mit einer zweiten Nummer</translation>
+  </message>
+  <message id="renameKeeps">
+   <source>Keeps its name</source>
+   <translation type="unfinished">Behält ihren Namen</translation>
+  </message>
+  <message id="renameKeepsTip">
+   <source>Search results (asr) and shortcuts (lnk) are not renamed</source>
+   <translation type="unfinished">Suchergebnisse (asr) und Verknüpfungen (lnk) werden nicht umbenannt</translation>
+  </message>
+  <message id="renamePlan">
+   <source>Old and new names</source>
+   <translation type="unfinished">Alte und neue Namen</translation>
+  </message>
+  <message id="renameLooking">
+   <source>Looking for names that are taken…</source>
+   <translation type="unfinished">Vergebene Namen werden gesucht …</translation>
+  </message>
+  <message id="renameFiles" numerus="yes">
+   <source>%1 files</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei</numerusform>
+    <numerusform>%1 Dateien</numerusform>
+   </translation>
+  </message>
+  <message id="renameClashes" numerus="yes">
+   <source>%1 get another number because the name is taken</source>
+   <translation type="unfinished">
+    <numerusform>%1 erhält eine andere Nummer, weil der Name vergeben ist</numerusform>
+    <numerusform>%1 erhalten eine andere Nummer, weil der Name vergeben ist</numerusform>
+   </translation>
+  </message>
+  <message id="renameKept" numerus="yes">
+   <source>%1 keep their names</source>
+   <translation type="unfinished">
+    <numerusform>%1 behält ihren Namen</numerusform>
+    <numerusform>%1 behalten ihre Namen</numerusform>
+   </translation>
+  </message>
+  <message id="renameAnd">
+   <source>%1, %2</source>
+   <translation type="unfinished">%1, %2</translation>
+  </message>
+  <message id="renameOnlyTaken">
+   <source>&amp;Show only files whose name was taken</source>
+   <translation type="unfinished">&amp;Nur Dateien zeigen, deren Name vergeben war</translation>
+  </message>
+  <message id="renameDo" numerus="yes">
+   <source>&amp;Rename %1 Files</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei &amp;umbenennen</numerusform>
+    <numerusform>%1 Dateien &amp;umbenennen</numerusform>
+   </translation>
+  </message>
   <message id="skinTabs">
    <source>Places</source>
    <translation type="unfinished">Orte</translation>
@@ -1184,6 +1280,113 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <translation type="unfinished">
     <numerusform>Zeitstempel von %1 Element rückgängig</numerusform>
     <numerusform>Zeitstempel von %1 Elementen rückgängig</numerusform>
+   </translation>
+  </message>
+  <message id="stampTitle">
+   <source>Change Time Stamp</source>
+   <translation type="unfinished">Zeitstempel ändern</translation>
+  </message>
+  <message id="stampNothing">
+   <source>Select the files whose time stamps are to be changed.</source>
+   <translation type="unfinished">Erst die Dateien auswählen, deren Zeitstempel geändert werden sollen.</translation>
+  </message>
+  <message id="stampWhat" numerus="yes">
+   <source>Time stamps of %1 files</source>
+   <translation type="unfinished">
+    <numerusform>Zeitstempel von %1 Datei</numerusform>
+    <numerusform>Zeitstempel von %1 Dateien</numerusform>
+   </translation>
+  </message>
+  <message id="stampCreation">
+   <source>&amp;Creation time</source>
+   <translation type="unfinished">&amp;Erstellungszeit</translation>
+  </message>
+  <message id="stampModified">
+   <source>Last &amp;modified time</source>
+   <translation type="unfinished">Zeit der letzten Änder&amp;ung</translation>
+  </message>
+  <message id="stampFromCreation">
+   <source>The date the &amp;file was created</source>
+   <translation type="unfinished">Zeitpunkt, zu dem die &amp;Datei erstellt wurde</translation>
+  </message>
+  <message id="stampFromCreationTip">
+   <source>A creation time cannot be set from itself</source>
+   <translation type="unfinished">Eine Erstellungszeit kann nicht aus sich selbst gesetzt werden</translation>
+  </message>
+  <message id="stampFromNow">
+   <source>Current date and &amp;time</source>
+   <translation type="unfinished">&amp;Jetzige Zeit</translation>
+  </message>
+  <message id="stampFromExif">
+   <source>&amp;EXIF date, if available</source>
+   <translation type="unfinished">E&amp;XIF-Datum, falls vorhanden</translation>
+  </message>
+  <message id="stampFromExifIn">
+   <source>&amp;EXIF date, if available (in %1 of %2)</source>
+   <translation type="unfinished">E&amp;XIF-Datum, falls vorhanden (bei %1 von %2)</translation>
+  </message>
+  <message id="stampFromPicked">
+   <source>T&amp;his date and time:</source>
+   <translation type="unfinished">Die&amp;ser Zeitpunkt:</translation>
+  </message>
+  <message id="stampDate">
+   <source>Date</source>
+   <translation type="unfinished">Datum</translation>
+  </message>
+  <message id="stampTime">
+   <source>Time</source>
+   <translation type="unfinished">Uhrzeit</translation>
+  </message>
+  <message id="stampLooking">
+   <source>Looking for EXIF dates…</source>
+   <translation type="unfinished">EXIF-Daten werden gesucht …</translation>
+  </message>
+  <message id="stampNoFlag">
+   <source>Choose which of the two times to change.</source>
+   <translation type="unfinished">Auswählen, welche der beiden Zeiten geändert werden soll.</translation>
+  </message>
+  <message id="stampNoDate">
+   <source>This date cannot be set.</source>
+   <translation type="unfinished">Dieses Datum kann nicht gesetzt werden.</translation>
+  </message>
+  <message id="stampSetsModified" numerus="yes">
+   <source>The modification time of %1 files becomes %2.</source>
+   <translation type="unfinished">
+    <numerusform>Die Änderungszeit von %1 Datei wird auf %2 gesetzt.</numerusform>
+    <numerusform>Die Änderungszeit von %1 Dateien wird auf %2 gesetzt.</numerusform>
+   </translation>
+  </message>
+  <message id="stampSetsCreation" numerus="yes">
+   <source>The creation time of %1 files becomes %2.</source>
+   <translation type="unfinished">
+    <numerusform>Die Erstellungszeit von %1 Datei wird auf %2 gesetzt.</numerusform>
+    <numerusform>Die Erstellungszeit von %1 Dateien wird auf %2 gesetzt.</numerusform>
+   </translation>
+  </message>
+  <message id="stampSetsBoth" numerus="yes">
+   <source>The creation and modification times of %1 files become %2.</source>
+   <translation type="unfinished">
+    <numerusform>Erstellungs- und Änderungszeit von %1 Datei werden auf %2 gesetzt.</numerusform>
+    <numerusform>Erstellungs- und Änderungszeit von %1 Dateien werden auf %2 gesetzt.</numerusform>
+   </translation>
+  </message>
+  <message id="stampToCreation">
+   <source>the time at which each was created</source>
+   <translation type="unfinished">den Zeitpunkt der jeweiligen Erstellung</translation>
+  </message>
+  <message id="stampToNow">
+   <source>the present time</source>
+   <translation type="unfinished">die jetzige Zeit</translation>
+  </message>
+  <message id="stampToExif">
+   <source>the EXIF date of each</source>
+   <translation type="unfinished">das jeweilige EXIF-Datum</translation>
+  </message>
+  <message id="stampLeft" numerus="yes">
+   <source>%1 files have no EXIF date and are left as they are.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei hat kein EXIF-Datum und bleibt, wie sie ist.</numerusform>
+    <numerusform>%1 Dateien haben kein EXIF-Datum und bleiben, wie sie sind.</numerusform>
    </translation>
   </message>
   <message id="statusFiles" numerus="yes">

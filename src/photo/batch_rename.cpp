@@ -7,6 +7,8 @@
 #include "platform/services.h"
 #include "platform/shell.h"
 
+#include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -26,6 +28,17 @@ public:
         return given.contains(path) ||
                (!freed.contains(path) && platform::Os().shell->FindEntry(path).has_value());
     }
+    // The first of `pathOf(1)`, `pathOf(2)` ... that is free. `group` stands for that row of names: what was
+    // taken is not asked for again until a rename gives it up, so that ten thousand clashes stay quick.
+    template <typename PathOf> std::string FirstFree(const std::string& group, const PathOf& pathOf)
+    {
+        int& number = firstToTry.try_emplace(group, 1).first->second;
+        std::string path = pathOf(number);
+        for (; IsTaken(path); path = pathOf(++number)) {
+            tried.insert_or_assign(path, std::pair(group, number));
+        }
+        return path;
+    }
     void Rename(const std::string& from, const std::string& to)
     {
         if (given.erase(from) == 0) {
@@ -33,11 +46,18 @@ public:
         }
         freed.erase(to);
         given.insert(to);
+        if (const auto known = tried.find(from); known != tried.end()) {
+            int& number = firstToTry.at(known->second.first);
+            number = std::min(number, known->second.second);
+            tried.erase(known);
+        }
     }
 
 private:
     std::unordered_set<std::string> freed;
     std::unordered_set<std::string> given;
+    std::unordered_map<std::string, int> firstToTry;
+    std::unordered_map<std::string, std::pair<std::string, int>> tried;  // taken ones: group and number
 };
 
 }  // namespace
@@ -56,9 +76,11 @@ std::vector<PlannedRename> PlanBatchRename(const std::vector<std::string>& files
                                          extension.empty() ? name : name + "." + extension);
             };
             rename.to = pathOf(FormatPattern(pattern, itemCounter++));
-            for (int collisionCounter = 1; names.IsTaken(rename.to); ++collisionCounter) {
-                rename.to = pathOf(FormatPattern(pattern + "-%d", collisionCounter));
-                rename.hasClash = true;
+            rename.hasClash = names.IsTaken(rename.to);
+            if (rename.hasClash) {
+                rename.to = names.FirstFree(pathOf({}), [&](int collisionCounter) {
+                    return pathOf(FormatPattern(pattern + "-%d", collisionCounter));
+                });
             }
             names.Rename(from, rename.to);
         }

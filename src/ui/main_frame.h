@@ -21,6 +21,7 @@
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
+#include "ui/photo/batch_commands.h"
 #include "ui/status_bar.h"
 #include "ui/viewer/viewer_pages.h"
 
@@ -108,6 +109,7 @@ private:
     CViewCommands viewCommands;
     CToolCommands toolCommands;
     CHelpCommands helpCommands;
+    CBatchCommands batchCommands;
 };
 
 }  // namespace ui

@@ -12,6 +12,8 @@
 #include "ui/files/clash_dialog.h"
 #include "ui/files/job_dialog.h"
 #include "ui/files/new_folder_dialog.h"
+#include "ui/photo/rename_dialog.h"
+#include "ui/photo/time_stamp_dialog.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -37,6 +39,8 @@ std::vector<std::unique_ptr<QDialog>> AllDialogs(const std::string& folder)
     all.push_back(std::make_unique<ui::COptionsDialog>(folder, nullptr));
     all.push_back(std::make_unique<ui::CPropertiesDialog>(std::vector{folder}, nullptr));
     all.push_back(std::make_unique<ui::CSelectSourceDialog>(nullptr));
+    all.push_back(std::make_unique<ui::CRenameDialog>(std::vector{folder}, photo::CRenameFields(), nullptr));
+    all.push_back(std::make_unique<ui::CTimeStampDialog>(std::vector{folder}, nullptr));
     all.push_back(std::make_unique<ui::CMessageBox>(ui::CMessageBox::Warning, "Kelvo", "Text", nullptr));
     for (const auto& dialog : all)
         dialog->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -55,10 +59,11 @@ TEST_F(SkinTest, EveryDialogTakesItsGroundAndItsButtonsFromTheFileOfItsName)
 {
     Picture("Manager/a_normal.png", Qt::red);
     Picture("Manager/a_gray.png", Qt::red);
-    for (const char* name :
-         {"NewFolderDlg", "ClashDlg", "JobDlg", "OptionsDlg", "PropertiesDlg", "SelectSourceDlg", "dialog"}) {
+    for (const char* name : {"NewFolderDlg", "ClashDlg", "JobDlg", "OptionsDlg", "PropertiesDlg",
+                             "SelectSourceDlg", "RenameDlg", "TimestampDlg", "dialog"}) {
         std::string text = "[panel]\ncolor=250,240,230\n";
-        for (const char* button : {"ok", "cancel", "merge", "keep_both", "replace", "skip", "stop", "close"})
+        for (const char* button : {"ok", "cancel", "merge", "keep_both", "replace", "skip", "stop", "close",
+                                   "Btn_Ok", "Btn_Cancel"})
             text += "[" + std::string(button) + "]\n" + kPieces;
         folder.Make("skin/default/Manager/" + std::string(name) + ".ini", text);
     }

@@ -219,6 +219,8 @@ void CFileActions::Rename()
     const Place focus = Focus();
     if (focus == Place::tree)
         RenameInTree(*left.Tree(), left.Tree()->currentIndex());
+    else if (const auto paths = Chosen(); focus == Place::list && paths.size() > 1)
+        Q_EMIT SeveralToRename(paths);
     else if (focus == Place::list)
         RenameInList();
 }

@@ -43,7 +43,7 @@ public:
     void Delete();
     // After a question.
     void DeleteForGood();
-    // Of the current item, in place.
+    // Of the current item, in place; of several selected ones, whoever hears SeveralToRename.
     void Rename();
     void NewFolder();
     void Undo();
@@ -64,6 +64,8 @@ Q_SIGNALS:
     void UndoChanged(const QString& text, bool possible);
     // The folder on show is no longer where it was; this is the one to go to.
     void FolderMoved(const std::string& path);
+    // In the order of the list.
+    void SeveralToRename(const std::vector<std::string>& paths);
     // What the jobs have done, for whoever keeps records by path.
     void Done(const browser::FileJobReport& report);
 
