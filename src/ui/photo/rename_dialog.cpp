@@ -88,6 +88,7 @@ void CRenameDialog::NameParts()
     digits->setFixedWidth(kDigitsWidth);
     range->setForegroundRole(QPalette::PlaceholderText);
     preview->setTextFormat(Qt::PlainText);
+    preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     counts->setTextFormat(Qt::PlainText);
     counts->setWordWrap(true);
 }
@@ -101,6 +102,7 @@ void CRenameDialog::BuildTable()
     table->setItemsExpandable(false);
     table->setAllColumnsShowFocus(true);
     table->setTextElideMode(Qt::ElideMiddle);
+    table->setIconSize({kIconSide, kIconSide});
     table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     table->setTabKeyNavigation(false);
     QHeaderView& header = *table->header();
@@ -150,8 +152,21 @@ void CRenameDialog::OnEdited()
     fields.prefix = NameBytes(prefix->text());
     fields.digits = PlainDigits(digits->text());
     acceptWhenPlanned = false;
-    preview->setText(Text(StringId::renameSample, Shown(fields.Preview())));
+    ShowPreview();
     Plan();
+}
+
+void CRenameDialog::ShowPreview()
+{
+    const QString sample = Text(StringId::renameSample, Shown(fields.Preview()));
+    preview->setText(fontMetrics().elidedText(sample, Qt::ElideMiddle, preview->width()));
+    preview->setAccessibleName(sample);
+}
+
+void CRenameDialog::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    ShowPreview();
 }
 
 photo::RenameObjection CRenameDialog::Objection() const
@@ -199,9 +214,9 @@ void CRenameDialog::ShowCounts()
     const int renames = all - model->Kept();
     QString text = Counted(StringId::renameFiles, all);
     if (model->Clashes() > 0)
-        text = Text(StringId::renameAnd, text, Counted(StringId::renameClashes, model->Clashes()));
+        text = Text(StringId::renameAnd).arg(text, Counted(StringId::renameClashes, model->Clashes()));
     if (model->Kept() > 0)
-        text = Text(StringId::renameAnd, text, Counted(StringId::renameKept, model->Kept()));
+        text = Text(StringId::renameAnd).arg(text, Counted(StringId::renameKept, model->Kept()));
     // An objection leaves no plan. OK tells it again, in a message.
     const photo::RenameObjection objection = Objection();
     if (objection == photo::RenameObjection::badCharacter)
@@ -222,7 +237,7 @@ void CRenameDialog::ShowRoomForNotes()
     int width = 0;
     for (const StringId note : {StringId::renameTaken, StringId::renameKeeps, StringId::renameNote})
         width = std::max(width, fontMetrics().horizontalAdvance(Text(note)));
-    table->header()->resizeSection(CRenamePlanModel::noteColumn, width + kIconSide + 6 * kGrid);
+    table->header()->resizeSection(CRenamePlanModel::noteColumn, width + kIconSide + 10 * kGrid);
     table->setColumnHidden(CRenamePlanModel::noteColumn, model->Clashes() + model->Kept() == 0);
 }
 

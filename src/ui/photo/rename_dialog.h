@@ -38,6 +38,9 @@ public:
     // Whether the list does not show yet what the fields hold.
     bool IsPlanning() const { return planned != Wish(); }
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 Q_SIGNALS:
     void Chosen(const std::vector<photo::PlannedRename>& plan, const photo::CRenameFields& used);
 
@@ -47,6 +50,7 @@ private:
     QDialogButtonBox* MakeButtons();
     void Arrange(QDialogButtonBox* buttons);
     void OnEdited();
+    void ShowPreview();
     // The pattern that the fields ask for; empty while they cannot be used.
     std::string Wish() const;
     photo::RenameObjection Objection() const;

@@ -123,6 +123,8 @@ void CTimeStampDialog::MakePickers()
     date->setDisplayFormat(DateForm());
     date->setAccessibleName(Text(StringId::stampDate));
     date->setToolTip(Text(StringId::stampDate));
+    // Qt would turn the order of the parts round, which clocks do in no language.
+    time->setLayoutDirection(Qt::LeftToRight);
     time->setDisplayFormat(TimeForm());
     time->setAccessibleName(Text(StringId::stampTime));
     time->setToolTip(Text(StringId::stampTime));
