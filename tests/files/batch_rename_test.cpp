@@ -85,6 +85,10 @@ TEST_F(BatchRename, PlansNamesAsIfTheRenamesBeforeHadBeenDone)
     EXPECT_THAT(Planned({"Photo0005.jpg", "Photo0001.jpg", "a.jpg", "b.JPG", "c.jpg"}, "Photo%04d"),
                 ElementsAre("Photo0001-1.jpg !", "Photo0002.jpg", "Photo0003.jpg", "Photo0002-2.jpg !",
                             "Photo0005.jpg"));
+    // A number that a rename gives up is free again.
+    MakeAll({"P1.jpg", "P2.jpg", "P3.jpg", "P1-1.jpg"});
+    EXPECT_THAT(Planned({"a.jpg", "P1-1.jpg", "b.JPG"}, "P%d"),
+                ElementsAre("P2-2.jpg !", "P3-3.jpg !", "P1-1.jpg !"));
     EXPECT_TRUE(Planned({"a.jpg"}, "").empty());
 }
 
