@@ -25,6 +25,120 @@
     <numerusform>تعذّر حفظ نصوص %1 صورة.</numerusform>
    </translation>
   </message>
+  <message id="captionPage">
+   <source>Caption</source>
+   <translation type="unfinished">الشرح</translation>
+  </message>
+  <message id="captionName">
+   <source>File &amp;name:</source>
+   <translation type="unfinished">ا&amp;سم الملف:</translation>
+  </message>
+  <message id="captionText">
+   <source>&amp;Caption:</source>
+   <translation type="unfinished">ال&amp;شرح:</translation>
+  </message>
+  <message id="captionTextTip">
+   <source>Captions given before are in the list</source>
+   <translation type="unfinished">الشروح السابقة موجودة في القائمة</translation>
+  </message>
+  <message id="captionTimeStamp">
+   <source>&amp;Time stamp:</source>
+   <translation type="unfinished">ال&amp;طابع الزمني:</translation>
+  </message>
+  <message id="captionTimeStampTip">
+   <source>Whether the photo carries a day</source>
+   <translation type="unfinished">هل تحمل الصورة تاريخ يوم</translation>
+  </message>
+  <message id="captionDay">
+   <source>Day of the time stamp</source>
+   <translation type="unfinished">يوم الطابع الزمني</translation>
+  </message>
+  <message id="captionSecond">
+   <source>&amp;Second text:</source>
+   <translation type="unfinished">النص ال&amp;ثاني:</translation>
+  </message>
+  <message id="captionOtherStamp">
+   <source>The time stamp is %1, which is no day. It stays unless you choose one.</source>
+   <translation type="unfinished">الطابع الزمني هو %1، وهو ليس يومًا. يبقى كما هو ما لم تختر يومًا.</translation>
+  </message>
+  <message id="captionNone">
+   <source>Only pictures and clips carry captions.</source>
+   <translation type="unfinished">لا تحمل الشروح إلا الصور والمقاطع.</translation>
+  </message>
+  <message id="captionGives" numerus="yes">
+   <source>The changes are for %1 files.</source>
+   <translation type="unfinished">
+    <numerusform>التغييرات تخص %1 ملف.</numerusform>
+    <numerusform>التغييرات تخص ملفًا واحدًا.</numerusform>
+    <numerusform>التغييرات تخص ملفين.</numerusform>
+    <numerusform>التغييرات تخص %1 ملفات.</numerusform>
+    <numerusform>التغييرات تخص %1 ملفًا.</numerusform>
+    <numerusform>التغييرات تخص %1 ملف.</numerusform>
+   </translation>
+  </message>
+  <message id="captionReplacesCaptions">
+   <source>Replaces the captions of %1 of the %2 files.</source>
+   <translation type="unfinished">يستبدل شروح %1 من %2 من الملفات.</translation>
+  </message>
+  <message id="captionRemovesCaptions">
+   <source>Removes the captions of %1 of the %2 files.</source>
+   <translation type="unfinished">يزيل شروح %1 من %2 من الملفات.</translation>
+  </message>
+  <message id="captionReplacesStamps">
+   <source>Replaces the time stamps of %1 of the %2 files.</source>
+   <translation type="unfinished">يستبدل الطوابع الزمنية لعدد %1 من %2 من الملفات.</translation>
+  </message>
+  <message id="captionRemovesStamps">
+   <source>Removes the time stamps of %1 of the %2 files.</source>
+   <translation type="unfinished">يزيل الطوابع الزمنية لعدد %1 من %2 من الملفات.</translation>
+  </message>
+  <message id="captionReplacesSeconds">
+   <source>Replaces the second texts of %1 of the %2 files.</source>
+   <translation type="unfinished">يستبدل النصوص الثانية لعدد %1 من %2 من الملفات.</translation>
+  </message>
+  <message id="captionRemovesSeconds">
+   <source>Removes the second texts of %1 of the %2 files.</source>
+   <translation type="unfinished">يزيل النصوص الثانية لعدد %1 من %2 من الملفات.</translation>
+  </message>
+  <message id="captionApply">
+   <source>&amp;Apply</source>
+   <translation type="unfinished">ت&amp;طبيق</translation>
+  </message>
+  <message id="captionApplyTip">
+   <source>Store the changes (Ctrl+Enter)</source>
+   <translation type="unfinished">تخزين التغييرات (Ctrl+Enter)</translation>
+  </message>
+  <message id="captionRevert">
+   <source>&amp;Revert</source>
+   <translation type="unfinished">ت&amp;راجع</translation>
+  </message>
+  <message id="captionRevertTip">
+   <source>Show again what is stored</source>
+   <translation type="unfinished">إظهار المخزن مرة أخرى</translation>
+  </message>
+  <message id="captionAskOne">
+   <source>Store the changes to %1?</source>
+   <translation type="unfinished">هل تريد تخزين التغييرات على %1؟</translation>
+  </message>
+  <message id="captionAskMany" numerus="yes">
+   <source>Store the changes to %1 files?</source>
+   <translation type="unfinished">
+    <numerusform>هل تريد تخزين التغييرات على %1 ملف؟</numerusform>
+    <numerusform>هل تريد تخزين التغييرات على ملف واحد؟</numerusform>
+    <numerusform>هل تريد تخزين التغييرات على ملفين؟</numerusform>
+    <numerusform>هل تريد تخزين التغييرات على %1 ملفات؟</numerusform>
+    <numerusform>هل تريد تخزين التغييرات على %1 ملفًا؟</numerusform>
+    <numerusform>هل تريد تخزين التغييرات على %1 ملف؟</numerusform>
+   </translation>
+  </message>
+  <message id="captionStore">
+   <source>&amp;Store</source>
+   <translation type="unfinished">ت&amp;خزين</translation>
+  </message>
+  <message id="captionDiscard">
+   <source>&amp;Discard</source>
+   <translation type="unfinished">ت&amp;جاهل</translation>
+  </message>
   <message id="propertiesTitle">
    <source>Properties of %1</source>
    <translation type="unfinished">خصائص %1</translation>
@@ -886,6 +1000,10 @@
    <source>Task Panel</source>
    <translation type="unfinished">لوحة المهام</translation>
   </message>
+  <message id="commandPhotoInfo">
+   <source>Photo Information</source>
+   <translation type="unfinished">معلومات الصورة</translation>
+  </message>
   <message id="commandRefresh">
    <source>Refresh</source>
    <translation type="unfinished">تحديث</translation>
@@ -1097,6 +1215,82 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
   <message id="suiteNoShow">
    <source>There are no pictures here to show.</source>
    <translation type="unfinished">لا توجد هنا صور لعرضها.</translation>
+  </message>
+  <message id="infoTitle">
+   <source>Information on %1</source>
+   <translation type="unfinished">معلومات عن %1</translation>
+  </message>
+  <message id="infoPane">
+   <source>Photo Information</source>
+   <translation type="unfinished">معلومات الصورة</translation>
+  </message>
+  <message id="infoPages">
+   <source>Pages</source>
+   <translation type="unfinished">الصفحات</translation>
+  </message>
+  <message id="infoGeneral">
+   <source>General</source>
+   <translation type="unfinished">عام</translation>
+  </message>
+  <message id="infoExif">
+   <source>EXIF</source>
+   <translation type="unfinished">EXIF</translation>
+  </message>
+  <message id="infoNothing">
+   <source>Select a photo to see its facts</source>
+   <translation type="unfinished">حدد صورة لرؤية معلوماتها</translation>
+  </message>
+  <message id="infoNothingMore">
+   <source>Name, size, dates and caption are shown here.</source>
+   <translation type="unfinished">يظهر هنا الاسم والحجم والتواريخ والشرح.</translation>
+  </message>
+  <message id="infoName">
+   <source>Name:</source>
+   <translation type="unfinished">الاسم:</translation>
+  </message>
+  <message id="infoFolder">
+   <source>Folder:</source>
+   <translation type="unfinished">المجلد:</translation>
+  </message>
+  <message id="infoKind">
+   <source>Type:</source>
+   <translation type="unfinished">النوع:</translation>
+  </message>
+  <message id="infoPixels">
+   <source>Picture size:</source>
+   <translation type="unfinished">أبعاد الصورة:</translation>
+  </message>
+  <message id="infoSize">
+   <source>Size:</source>
+   <translation type="unfinished">الحجم:</translation>
+  </message>
+  <message id="infoCreated">
+   <source>Created:</source>
+   <translation type="unfinished">تاريخ الإنشاء:</translation>
+  </message>
+  <message id="infoModified">
+   <source>Modified:</source>
+   <translation type="unfinished">تاريخ التعديل:</translation>
+  </message>
+  <message id="infoTaken">
+   <source>Taken:</source>
+   <translation type="unfinished">تاريخ الالتقاط:</translation>
+  </message>
+  <message id="infoSeveral">
+   <source>Several values</source>
+   <translation type="unfinished">قيم مختلفة</translation>
+  </message>
+  <message id="infoReading">
+   <source>Reading...</source>
+   <translation type="unfinished">جارٍ القراءة...</translation>
+  </message>
+  <message id="infoAndMore">
+   <source>%1 and more</source>
+   <translation type="unfinished">%1 وأكثر</translation>
+  </message>
+  <message id="infoExifText">
+   <source>What the camera wrote down</source>
+   <translation type="unfinished">ما سجلته الكاميرا</translation>
   </message>
   <message id="listColumnHeadings">
    <source>Name|Size|Type|Modified</source>

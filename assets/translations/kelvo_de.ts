@@ -17,6 +17,112 @@
     <numerusform>Die Texte von %1 Fotos konnten nicht gespeichert werden.</numerusform>
    </translation>
   </message>
+  <message id="captionPage">
+   <source>Caption</source>
+   <translation type="unfinished">Bildunterschrift</translation>
+  </message>
+  <message id="captionName">
+   <source>File &amp;name:</source>
+   <translation type="unfinished">Datei&amp;name:</translation>
+  </message>
+  <message id="captionText">
+   <source>&amp;Caption:</source>
+   <translation type="unfinished">&amp;Bildunterschrift:</translation>
+  </message>
+  <message id="captionTextTip">
+   <source>Captions given before are in the list</source>
+   <translation type="unfinished">Frühere Bildunterschriften stehen in der Liste</translation>
+  </message>
+  <message id="captionTimeStamp">
+   <source>&amp;Time stamp:</source>
+   <translation type="unfinished">&amp;Zeitstempel:</translation>
+  </message>
+  <message id="captionTimeStampTip">
+   <source>Whether the photo carries a day</source>
+   <translation type="unfinished">Ob das Foto einen Tag trägt</translation>
+  </message>
+  <message id="captionDay">
+   <source>Day of the time stamp</source>
+   <translation type="unfinished">Tag des Zeitstempels</translation>
+  </message>
+  <message id="captionSecond">
+   <source>&amp;Second text:</source>
+   <translation type="unfinished">Zwei&amp;ter Text:</translation>
+  </message>
+  <message id="captionOtherStamp">
+   <source>The time stamp is %1, which is no day. It stays unless you choose one.</source>
+   <translation type="unfinished">Der Zeitstempel ist %1, das ist kein Tag. Er bleibt, bis Sie einen wählen.</translation>
+  </message>
+  <message id="captionNone">
+   <source>Only pictures and clips carry captions.</source>
+   <translation type="unfinished">Nur Bilder und Videos tragen Bildunterschriften.</translation>
+  </message>
+  <message id="captionGives" numerus="yes">
+   <source>The changes are for %1 files.</source>
+   <translation type="unfinished">
+    <numerusform>Die Änderungen gelten für %1 Datei.</numerusform>
+    <numerusform>Die Änderungen gelten für %1 Dateien.</numerusform>
+   </translation>
+  </message>
+  <message id="captionReplacesCaptions">
+   <source>Replaces the captions of %1 of the %2 files.</source>
+   <translation type="unfinished">Ersetzt die Bildunterschriften von %1 der %2 Dateien.</translation>
+  </message>
+  <message id="captionRemovesCaptions">
+   <source>Removes the captions of %1 of the %2 files.</source>
+   <translation type="unfinished">Entfernt die Bildunterschriften von %1 der %2 Dateien.</translation>
+  </message>
+  <message id="captionReplacesStamps">
+   <source>Replaces the time stamps of %1 of the %2 files.</source>
+   <translation type="unfinished">Ersetzt die Zeitstempel von %1 der %2 Dateien.</translation>
+  </message>
+  <message id="captionRemovesStamps">
+   <source>Removes the time stamps of %1 of the %2 files.</source>
+   <translation type="unfinished">Entfernt die Zeitstempel von %1 der %2 Dateien.</translation>
+  </message>
+  <message id="captionReplacesSeconds">
+   <source>Replaces the second texts of %1 of the %2 files.</source>
+   <translation type="unfinished">Ersetzt die zweiten Texte von %1 der %2 Dateien.</translation>
+  </message>
+  <message id="captionRemovesSeconds">
+   <source>Removes the second texts of %1 of the %2 files.</source>
+   <translation type="unfinished">Entfernt die zweiten Texte von %1 der %2 Dateien.</translation>
+  </message>
+  <message id="captionApply">
+   <source>&amp;Apply</source>
+   <translation type="unfinished">&amp;Anwenden</translation>
+  </message>
+  <message id="captionApplyTip">
+   <source>Store the changes (Ctrl+Enter)</source>
+   <translation type="unfinished">Die Änderungen speichern (Strg+Eingabe)</translation>
+  </message>
+  <message id="captionRevert">
+   <source>&amp;Revert</source>
+   <translation type="unfinished">Zu&amp;rücksetzen</translation>
+  </message>
+  <message id="captionRevertTip">
+   <source>Show again what is stored</source>
+   <translation type="unfinished">Wieder zeigen, was gespeichert ist</translation>
+  </message>
+  <message id="captionAskOne">
+   <source>Store the changes to %1?</source>
+   <translation type="unfinished">Die Änderungen an %1 speichern?</translation>
+  </message>
+  <message id="captionAskMany" numerus="yes">
+   <source>Store the changes to %1 files?</source>
+   <translation type="unfinished">
+    <numerusform>Die Änderungen an %1 Datei speichern?</numerusform>
+    <numerusform>Die Änderungen an %1 Dateien speichern?</numerusform>
+   </translation>
+  </message>
+  <message id="captionStore">
+   <source>&amp;Store</source>
+   <translation type="unfinished">&amp;Speichern</translation>
+  </message>
+  <message id="captionDiscard">
+   <source>&amp;Discard</source>
+   <translation type="unfinished">&amp;Verwerfen</translation>
+  </message>
   <message id="propertiesTitle">
    <source>Properties of %1</source>
    <translation type="unfinished">Eigenschaften von %1</translation>
@@ -786,6 +892,10 @@
    <source>Task Panel</source>
    <translation type="unfinished">Aufgabenleiste</translation>
   </message>
+  <message id="commandPhotoInfo">
+   <source>Photo Information</source>
+   <translation type="unfinished">Fotoinformationen</translation>
+  </message>
   <message id="commandRefresh">
    <source>Refresh</source>
    <translation type="unfinished">Aktualisieren</translation>
@@ -997,6 +1107,82 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
   <message id="suiteNoShow">
    <source>There are no pictures here to show.</source>
    <translation type="unfinished">Hier gibt es keine Bilder, die gezeigt werden könnten.</translation>
+  </message>
+  <message id="infoTitle">
+   <source>Information on %1</source>
+   <translation type="unfinished">Informationen zu %1</translation>
+  </message>
+  <message id="infoPane">
+   <source>Photo Information</source>
+   <translation type="unfinished">Fotoinformationen</translation>
+  </message>
+  <message id="infoPages">
+   <source>Pages</source>
+   <translation type="unfinished">Seiten</translation>
+  </message>
+  <message id="infoGeneral">
+   <source>General</source>
+   <translation type="unfinished">Allgemein</translation>
+  </message>
+  <message id="infoExif">
+   <source>EXIF</source>
+   <translation type="unfinished">EXIF</translation>
+  </message>
+  <message id="infoNothing">
+   <source>Select a photo to see its facts</source>
+   <translation type="unfinished">Wählen Sie ein Foto aus, um seine Angaben zu sehen</translation>
+  </message>
+  <message id="infoNothingMore">
+   <source>Name, size, dates and caption are shown here.</source>
+   <translation type="unfinished">Hier stehen Name, Größe, Zeiten und Bildunterschrift.</translation>
+  </message>
+  <message id="infoName">
+   <source>Name:</source>
+   <translation type="unfinished">Name:</translation>
+  </message>
+  <message id="infoFolder">
+   <source>Folder:</source>
+   <translation type="unfinished">Ordner:</translation>
+  </message>
+  <message id="infoKind">
+   <source>Type:</source>
+   <translation type="unfinished">Typ:</translation>
+  </message>
+  <message id="infoPixels">
+   <source>Picture size:</source>
+   <translation type="unfinished">Bildgröße:</translation>
+  </message>
+  <message id="infoSize">
+   <source>Size:</source>
+   <translation type="unfinished">Größe:</translation>
+  </message>
+  <message id="infoCreated">
+   <source>Created:</source>
+   <translation type="unfinished">Erstellt:</translation>
+  </message>
+  <message id="infoModified">
+   <source>Modified:</source>
+   <translation type="unfinished">Geändert:</translation>
+  </message>
+  <message id="infoTaken">
+   <source>Taken:</source>
+   <translation type="unfinished">Aufgenommen:</translation>
+  </message>
+  <message id="infoSeveral">
+   <source>Several values</source>
+   <translation type="unfinished">Verschiedene Werte</translation>
+  </message>
+  <message id="infoReading">
+   <source>Reading...</source>
+   <translation type="unfinished">Wird gelesen …</translation>
+  </message>
+  <message id="infoAndMore">
+   <source>%1 and more</source>
+   <translation type="unfinished">%1 und mehr</translation>
+  </message>
+  <message id="infoExifText">
+   <source>What the camera wrote down</source>
+   <translation type="unfinished">Was die Kamera notiert hat</translation>
   </message>
   <message id="listColumnHeadings">
    <source>Name|Size|Type|Modified</source>

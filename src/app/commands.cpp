@@ -70,6 +70,7 @@ constexpr std::array kCommands = {
     Command{dateTakenColumn, MenuId::view, commandDateTakenColumn, "", Mark::toggle},
     Command{toolBar, MenuId::view, commandToolBar, "", Mark::toggle, true},
     Command{taskPanel, MenuId::view, commandTaskPanel, "", Mark::toggle, false},
+    Command{photoInfo, MenuId::view, commandPhotoInfo, "F9", Mark::toggle},
     Command{refresh, MenuId::view, commandRefresh, "F5", Mark::none, true},
 
     Command{imageSize, MenuId::tools, commandImageSize, "", Mark::none, false, missingEditors},

@@ -53,6 +53,7 @@ enum class CommandId {
     dateTakenColumn,
     toolBar,
     taskPanel,
+    photoInfo,
     refresh,
     imageSize,
     photoTrim,

@@ -12,6 +12,7 @@
 #include "ui/files/report_box.h"
 #include "ui/frame/waiting_question.h"
 #include "ui/list/list_commands.h"
+#include "ui/photo/photo_info_view.h"
 #include "ui/printer_defaults.h"
 #include "ui/theme.h"
 #include "ui/words.h"
@@ -20,6 +21,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QSplitter>
+#include <QTabWidget>
 
 #include <utility>
 
@@ -97,16 +99,29 @@ void CMainFrame::LoadSettings()
 
 void CMainFrame::BuildPanes()
 {
+    auto* rightHalf = new QSplitter(panes);
+    rightHalf->addWidget(pages);
+    rightHalf->setChildrenCollapsible(false);
+    rightHalf->setStretchFactor(0, 1);
     panes->addWidget(left);
-    panes->addWidget(pages);
+    panes->addWidget(rightHalf);
     panes->setStretchFactor(1, 1);
     panes->setChildrenCollapsible(false);
     panes->setSizes({kLeftWidth, kRightWidth});
     left->setMinimumWidth(40 * kGrid);
     pages->setMinimumWidth(60 * kGrid);
+    BuildPhotoInfo(*rightHalf);
     setCentralWidget(panes);
     setStatusBar(status);
     right->setFocus();
+}
+
+void CMainFrame::BuildPhotoInfo(QSplitter& beside)
+{
+    photoInfo = new CPhotoInfoPane(*List(), *files, SettingsFile(), beside);
+    QAction* const shown = menu->Action(app::CommandId::photoInfo);
+    connect(photoInfo, &CPhotoInfoPane::Turned, shown, &QAction::setChecked);
+    shown->setChecked(photoInfo->IsOn());
 }
 
 void CMainFrame::ConnectList()
@@ -193,15 +208,35 @@ void CMainFrame::keyPressEvent(QKeyEvent* event)
 
 void CMainFrame::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(isEnabled());
+    event->setAccepted(isEnabled() && !photoInfo->IsEdited());
     if (!isEnabled())
         AskAboutWaiting(*this);
+    else if (photoInfo->IsEdited())
+        photoInfo->Settle([this] { CloseAfterJobs(); });
+}
+
+// What was just asked for would be stopped with the window. It stays when something could not be done.
+void CMainFrame::CloseAfterJobs()
+{
+    if (!files->Jobs().IsBusy()) {
+        close();
+        return;
+    }
+    connect(
+        files, &CFileActions::Done, this,
+        [this](const browser::FileJobReport& report) {
+            if (report.problemCount == 0)
+                CloseAfterJobs();
+        },
+        Qt::SingleShotConnection);
 }
 
 void CMainFrame::SwitchPane()
 {
     if (left->isAncestorOf(focusWidget()))
         pages->setFocus(Qt::OtherFocusReason);
+    else if (photoInfo->IsOn() && !photoInfo->isAncestorOf(focusWidget()))
+        photoInfo->View()->Tabs()->setFocus(Qt::OtherFocusReason);
     else
         left->setFocus(Qt::OtherFocusReason);
 }

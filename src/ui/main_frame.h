@@ -22,6 +22,7 @@
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
 #include "ui/photo/batch_commands.h"
+#include "ui/photo/photo_info_pane.h"
 #include "ui/status_bar.h"
 #include "ui/viewer/viewer_pages.h"
 
@@ -61,6 +62,7 @@ public:
     CFileActions* Files() const { return files; }
     CStatusBar* Status() const { return status; }
     QSplitter* Panes() const { return panes; }
+    CPhotoInfoPane* PhotoInfo() const { return photoInfo; }
     std::string SettingsFile() const;
     const CMainMenu* Menu() const { return menu; }
     const CCommandRouter& Router() const { return router; }
@@ -82,6 +84,8 @@ private:
     void BuildPanes();
     void ConnectList();
     void ConnectFiles();
+    void BuildPhotoInfo(QSplitter& beside);
+    void CloseAfterJobs();
     void Tick();
     void GoUp();
     void SwitchPane();
@@ -99,6 +103,7 @@ private:
     CStatusBar* status;
     QSplitter* panes;
     CFileActions* files;
+    CPhotoInfoPane* photoInfo;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
     CFrameBars bars;

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader is told of the window.
+#include "ui/photo/photo_info_view.h"
 #include "window_test_base.h"
 
 #include <QAccessible>
 #include <QDialog>
 #include <QStringList>
+#include <QTabWidget>
 
 namespace
 {
@@ -62,6 +64,10 @@ TEST_F(Accessibility, EveryControlOfTheWindowHasAName)
     Add("a.jpg");
     Add("b.jpg");
     Open();
+    Select({"a.jpg"});
+    Run(app::CommandId::photoInfo);
+    ui::CPhotoInfoView& info = *frame->PhotoInfo()->View();
+    info.Tabs()->setCurrentWidget(info.Captions());
 
     for (const auto view : {app::CommandId::thumbnails, app::CommandId::details}) {
         Run(view);

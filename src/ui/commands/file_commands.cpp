@@ -7,6 +7,7 @@
 #include "ui/dialogs/properties_dialog.h"
 #include "ui/display_text.h"
 #include "ui/main_frame.h"
+#include "ui/photo/photo_info_dialog.h"
 #include "ui/words.h"
 
 namespace ui
@@ -42,7 +43,12 @@ void ShowProperties(CMainFrame& frame)
         paths = {frame.LeftView()->Folder()};
     if (paths.empty())
         return frame.Tell(Text(StringId::propertiesNothing));
-    auto* dialog = new CPropertiesDialog(std::move(paths), &frame);
+    PhotoQuestion question = AskAboutSelection(*frame.List());
+    QDialog* dialog = nullptr;
+    if (question.paths == paths && question.isMedia)
+        dialog = new CPhotoInfoDialog(std::move(question), *frame.Files(), &frame);
+    else
+        dialog = new CPropertiesDialog(std::move(paths), &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

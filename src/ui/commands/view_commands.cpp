@@ -15,6 +15,7 @@ CViewCommands::CViewCommands(CCommandRouter& router, CMainFrame& frame)
         router.On(id, [&frame, id] { RunListCommand(id, *frame.List()); });
     for (const app::CommandId bar : {toolBar, taskPanel})
         router.On(bar, [&frame, bar] { frame.Bars().Show(bar, frame.Menu()->Action(bar)->isChecked()); });
+    router.On(photoInfo, [&frame] { frame.PhotoInfo()->Turn(!frame.PhotoInfo()->IsOn()); });
     router.On(refresh, [&frame] {
         frame.LeftView()->Tree()->Refresh();
         frame.List()->Refresh();

@@ -15,6 +15,7 @@
 #include "ui/ie_shell_list_ctrl.h"
 #include "ui/item_painter.h"
 #include "ui/left_view.h"
+#include "ui/photo/photo_info_pane.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
@@ -83,6 +84,11 @@ CFileActions::Place CFileActions::Focus() const
     const QWidget* focus = window.focusWidget();
     if (qobject_cast<const QMenuBar*>(focus))
         focus = focusBeforeMenu.data();
+    // A field with a caption in it must not send a key on to the files.
+    for (const QWidget* place = focus; place; place = place->parentWidget()) {
+        if (qobject_cast<const CPhotoInfoPane*>(place))
+            return Place::elsewhere;
+    }
     if (!left.isAncestorOf(focus))
         return Place::list;
     const CFolderTree* tree = left.Tree();
