@@ -9,6 +9,7 @@
 #include "ui/display_text.h"
 #include "ui/files/name_editor.h"
 #include "ui/files/name_text.h"
+#include "ui/photo/caption_losses.h"
 #include "ui/theme.h"
 #include "ui/words.h"
 
@@ -50,34 +51,6 @@ bool IsTaken(const std::string& path, const std::string& own)
     const auto there = platform::Os().shell->FindEntry(path);
     const auto here = platform::Os().shell->FindEntry(own);
     return there && !(here && here->stamp == there->stamp);
-}
-
-// What an edit does to the other texts of several files.
-struct Loss {
-    std::string photo::PhotoTexts::*field;
-    std::optional<std::string> photo::TextChange::*change;
-    StringId replaces;
-    StringId removes;
-};
-constexpr Loss kLosses[] = {
-    {&photo::PhotoTexts::caption, &photo::TextChange::caption, StringId::captionReplacesCaptions,
-     StringId::captionRemovesCaptions},
-    {&photo::PhotoTexts::timeStamp, &photo::TextChange::timeStamp, StringId::captionReplacesStamps,
-     StringId::captionRemovesStamps},
-    {&photo::PhotoTexts::secondText, &photo::TextChange::secondText, StringId::captionReplacesSeconds,
-     StringId::captionRemovesSeconds},
-};
-
-// Of how many files another text would be taken away.
-qsizetype CountLost(const std::vector<photo::PhotoTexts>& texts, const Loss& loss,
-                    const photo::TextChange& change)
-{
-    const std::optional<std::string>& wanted = change.*loss.change;
-    if (!wanted || texts.size() < 2)
-        return 0;
-    return std::ranges::count_if(texts, [&](const photo::PhotoTexts& each) {
-        return !(each.*loss.field).empty() && each.*loss.field != *wanted;
-    });
 }
 
 QString EndingOf(const std::string& path)
@@ -375,9 +348,7 @@ bool CCaptionPage::IsEdited() const
 bool CCaptionPage::IsHarmless() const
 {
     const PhotoEdits edits = Edits();
-    return !edits.newPath && std::ranges::all_of(kLosses, [&](const Loss& loss) {
-        return CountLost(texts, loss, edits.change) == 0;
-    });
+    return !edits.newPath && DescribeLosses(texts, edits.change).isEmpty();
 }
 
 QString CCaptionPage::Objection()
@@ -416,12 +387,7 @@ void CCaptionPage::ShowNote()
     const qsizetype all = static_cast<qsizetype>(texts.size());
     if (all > 1 && edits.HasTexts())
         lines.append(Counted(StringId::captionGives, all));
-    for (const Loss& loss : kLosses) {
-        const qsizetype lost = CountLost(texts, loss, edits.change);
-        if (lost > 0)
-            lines.append(Text((edits.change.*loss.change)->empty() ? loss.removes : loss.replaces,
-                              QLocale().toString(lost), QLocale().toString(all)));
-    }
+    lines.append(DescribeLosses(texts, edits.change));
     note->setText(lines.join(QLatin1Char('\n')));
 }
 
