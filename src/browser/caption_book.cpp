@@ -8,6 +8,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 namespace browser
 {
 
@@ -56,6 +58,7 @@ void CCaptionBook::TakeInChanges()
         return;
     }
     texts.clear();
+    texts.reserve(static_cast<std::size_t>(std::ranges::count(*book, '\n')));
     lines = 0;
     for (const std::string_view line : Split(*book, '\n')) {
         const std::vector<std::string_view> fields = Split(line, '\t');

@@ -12,7 +12,6 @@
 
 #include <fmt/format.h>
 
-#include <unordered_map>
 #include <utility>
 
 namespace browser
@@ -87,10 +86,9 @@ private:
         UndoRecord planned = report.undo;
         for (std::size_t i = 0; i < request.sources.size(); ++i) {
             const std::string source = WithoutSeparator(request.sources[i]);
-            if (const auto facts = Os().shell->FindEntry(source)) {
+            known.push_back(Os().shell->FindEntry(source));
+            if (const auto& facts = known.back())
                 planned.steps.push_back({UndoAction::moveBack, TargetOf(i), source, facts->stamp});
-                known.emplace(source, *facts);
-            }
         }
         if (planned.steps.empty())
             return true;
@@ -100,9 +98,9 @@ private:
         return written != nullptr;
     }
 
-    const std::string& TargetOf(std::size_t item) const
+    const std::string& TargetOf(std::size_t number) const
     {
-        return item < request.targets.size() ? request.targets[item] : request.target;
+        return number < request.targets.size() ? request.targets[number] : request.target;
     }
 
     // What the thumbnail store holds of the files goes with them.
@@ -120,6 +118,7 @@ private:
         const std::size_t before = report.problemCount;
         const std::size_t skippedBefore = report.skipped;
         isTop = true;
+        item = number;
         switch (request.task) {
         case FileTask::copy:
         case FileTask::move:
@@ -225,8 +224,7 @@ private:
     bool Record(UndoAction action, const std::string& path, const std::string& origin)
     {
         // A new name changes nothing of what is known.
-        const auto before = known.find(origin);
-        const auto facts = before == known.end() ? Os().shell->FindEntry(path) : before->second;
+        const auto facts = item < known.size() && known[item] ? known[item] : Os().shell->FindEntry(path);
         report.undo.steps.push_back({action, path, origin, facts ? facts->stamp : platform::FileStamp{}});
         return facts && facts->isFolder;
     }
@@ -324,7 +322,8 @@ private:
     FileJobReport report;
     CJobRun run;
     std::unique_ptr<CChangeJournal::COpenEntry> written;
-    std::unordered_map<std::string, platform::EntryFacts> known;  // of what is to be renamed
+    std::vector<std::optional<platform::EntryFacts>> known;  // of what is to be renamed
+    std::size_t item = 0;                                    // in work
     std::vector<CarriedPath> copied;
     std::vector<CarriedPath> moved;
     bool isTop = false;  // the item in work is one that the user chose, and nothing is there of it yet

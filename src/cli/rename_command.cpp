@@ -12,8 +12,6 @@
 
 #include <fmt/format.h>
 
-#include <set>
-
 namespace cli
 {
 
@@ -48,18 +46,20 @@ browser::JobStores Stores(CContext& context)
     return {context.Application().DbFolder(), context.Folders().JournalFolder()};
 }
 
-// Each plan as it came out; `renamed` holds the new paths that are there now.
+// Each plan as it came out; `renamed` holds the new paths that are there now, in the order of the plan.
 void PrintPlan(CContext& context, const RenameArguments& arguments,
-               const std::vector<photo::PlannedRename>& plan, const std::set<std::string>& renamed)
+               const std::vector<photo::PlannedRename>& plan, const std::vector<std::string>& renamed)
 {
     Json items = Json::array();
+    auto next = renamed.begin();
     for (std::size_t i = 0; i < plan.size(); ++i) {
         const std::string& from = arguments.files[i];
         const bool keepsName = plan[i].to.empty();
         const std::size_t folderSize = from.size() - browser::FileName(from).size();
         const std::string to =
             keepsName ? from : from.substr(0, folderSize) + std::string(browser::FileName(plan[i].to));
-        const bool done = renamed.contains(plan[i].to);
+        const bool done = next != renamed.end() && *next == plan[i].to;
+        next += done ? 1 : 0;
         if (context.json) {
             items.push_back({{"from", from}, {"to", to}, {"renamed", done}});
         }
@@ -74,7 +74,7 @@ void RunRename(CContext& context, const RenameArguments& arguments)
 {
     const std::vector<std::string> files = AbsolutePaths(arguments.files);
     const auto plan = photo::PlanBatchRename(files, arguments.fields.Pattern());
-    std::set<std::string> renamed;
+    std::vector<std::string> renamed;
     if (!arguments.dryRun) {
         CJobHost host(context, files.size());
         const auto report = browser::RunFileJob(photo::BatchRenameJob(plan, Stores(context)), host);
@@ -84,7 +84,7 @@ void RunRename(CContext& context, const RenameArguments& arguments)
         if (report.problemCount > report.problems.size()) {
             context.Fail("rename", fmt::format("{} more", report.problemCount - report.problems.size()));
         }
-        renamed.insert(report.results.begin(), report.results.end());
+        renamed = report.results;
     }
     PrintPlan(context, arguments, plan, renamed);
 }
