@@ -136,6 +136,15 @@ std::unique_ptr<CChangeJournal::COpenEntry> CChangeJournal::Open(std::uint64_t n
     return Files().FindFirstFile(PathOf(number)) ? Claim(number, 0) : nullptr;
 }
 
+std::unique_ptr<CChangeJournal::COpenEntry> CChangeJournal::Open(const UndoRecord& record)
+{
+    auto opened = Open(record.journalNumber);
+    const auto entry = opened ? Read(record.journalNumber) : std::nullopt;
+    const bool isIt = entry && entry->record.task == record.task && entry->record.when == record.when &&
+                      entry->record.name == record.name;
+    return isIt ? std::move(opened) : nullptr;
+}
+
 void CChangeJournal::DropOldest(std::vector<std::uint64_t> numbers)
 {
     for (std::size_t i = 0; i + kMostEntries <= numbers.size(); ++i) {

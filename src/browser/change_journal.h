@@ -46,6 +46,9 @@ public:
     std::unique_ptr<COpenEntry> Begin(const UndoRecord& record);
     // Opens an entry that is there; null when there is none, or another process works on it.
     std::unique_ptr<COpenEntry> Open(std::uint64_t number);
+    // The same for the entry of that change. Numbers are given again after an undo, so null as well when the
+    // number is another change's by now.
+    std::unique_ptr<COpenEntry> Open(const UndoRecord& record);
 
     // Oldest first; what cannot be read is passed over.
     std::vector<JournalEntry> List() const;

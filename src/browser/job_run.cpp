@@ -170,7 +170,7 @@ FileJobReport RunUndo(const UndoRecord& record, const JobStores& stores, CFileJo
     report.items = record.steps.size();
     report.undo = record;
     const bool isWritten = record.journalNumber != 0 && !stores.journal.empty();
-    const auto entry = isWritten ? CChangeJournal(stores.journal).Open(record.journalNumber) : nullptr;
+    const auto entry = isWritten ? CChangeJournal(stores.journal).Open(record) : nullptr;
     if (isWritten && (!entry || !entry->Write(JournalState::undone, record))) {
         run.Note({record.name, FileFailure::changed, {}});
         report.undo.steps.clear();

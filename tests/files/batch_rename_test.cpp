@@ -124,6 +124,9 @@ TEST_F(BatchRename, RefusesToTakeBackWhatHasChangedSince)
     EXPECT_EQ(support::ReadBytes(Path("b.jpg")), "in the way");
     EXPECT_TRUE(std::filesystem::exists(Path("Photo0002.jpg")));
     EXPECT_EQ(Undo(report.undo).problems.size(), 1U) << "it is not in the journal any more";
+    Rename({Make("z.jpg")});
+    Undo(report.undo);
+    EXPECT_EQ(journal.List().size(), 1U) << "its number is another change's by now";
 }
 
 TEST_F(BatchRename, AJobThatStopsLeavesTheRestUntouched)
