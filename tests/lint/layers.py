@@ -19,13 +19,14 @@ ARROWS = {
     "archive": "platform",
     "browser": "platform archive",
     "photo": "platform archive browser",
-    "sound": "platform",
-    "handset": "platform archive browser photo sound",
-    "app": "platform archive browser photo sound handset",
-    "ui": "platform archive browser photo sound handset app",
-    "cli": "platform archive browser photo sound handset app",
+    "score": "platform",
+    "sound": "platform score",
+    "handset": "platform archive browser photo score sound",
+    "app": "platform archive browser photo score sound handset",
+    "ui": "platform archive browser photo score sound handset app",
+    "cli": "platform archive browser photo score sound handset app",
     "platform_linux": "platform",
-    "suite": "platform",
+    "suite": "platform score",
 }
 PROGRAMS = {"ui", "cli"}  # their main files choose the implementations
 IMPLEMENTATIONS = {"platform_linux", "suite"}
