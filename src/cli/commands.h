@@ -21,6 +21,7 @@ void AddArchiveCommand(CLI::App& parser, CContext& context);
 void AddCaptionCommand(CLI::App& parser, CContext& context);
 void AddStampCommand(CLI::App& parser, CContext& context);
 void AddRenameCommands(CLI::App& parser, CContext& context);  // rename, undo
+void AddSoundCommand(CLI::App& parser, CContext& context);
 void AddWatchCommand(CLI::App& parser, CContext& context);
 
 // The option that chooses the media types of a list.

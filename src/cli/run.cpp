@@ -30,6 +30,7 @@ int Run(int argc, const char* const* argv, const char* version)
     AddCaptionCommand(parser, context);
     AddStampCommand(parser, context);
     AddRenameCommands(parser, context);
+    AddSoundCommand(parser, context);
     AddWatchCommand(parser, context);
     CatchInterruptions();
     try {

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands below kelvoctl's command "sound".
+#pragma once
+
+#include "cli/commands.h"
+
+namespace cli
+{
+
+void AddWaveCommands(CLI::App& sound, CContext& context);  // adpcm, clip
+
+}  // namespace cli
