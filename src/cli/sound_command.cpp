@@ -10,6 +10,7 @@ void AddSoundCommand(CLI::App& parser, CContext& context)
     auto* sound = parser.add_subcommand("sound", "Ring tones and recorded sounds for the handset");
     sound->require_subcommand(1);
     AddWaveCommands(*sound, context);
+    AddInfoCommand(*sound, context);
 }
 
 }  // namespace cli

@@ -8,6 +8,7 @@
 namespace cli
 {
 
-void AddWaveCommands(CLI::App& sound, CContext& context);  // adpcm, clip
+void AddWaveCommands(CLI::App& sound, CContext& context);  // adpcm, clip, extract
+void AddInfoCommand(CLI::App& sound, CContext& context);
 
 }  // namespace cli

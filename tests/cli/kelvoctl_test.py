@@ -9,6 +9,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import wave
 import zlib
 from pathlib import Path
 
@@ -262,6 +263,37 @@ class Kelvoctl(unittest.TestCase):
         self.assertEqual(len({record["dbFileName"] for record in records}), len(folders))
         for folder in folders:
             self.assertEqual(self.json("thumbs", str(folder))["reused"], 3)
+
+    def test_a_recording_becomes_adpcm_and_a_ring_tone(self):
+        with wave.open(str(self.work / "clip.wav"), "wb") as clip:
+            clip.setparams((1, 2, 8000, 0, "NONE", ""))
+            clip.writeframes(struct.pack("<2001h", *range(-8000, 8008, 8)))
+        told = self.json("sound", "adpcm", "clip.wav", "clip.bin", "--a", "1", "--b", "100", "--name", "bell", "--halve")
+        self.assertEqual(told, {"result": 1, "recordNumber": 70, "name": "bell", "b": 100, "a": 1, "format": 4,
+                                "sampleRate": 4000, "length": 501})
+        self.assertEqual((self.work / "clip.bin").stat().st_size, 501)
+
+        self.assertEqual(self.json("sound", "clip", "clip.wav", "clip.mmf", "--title", "A, b")["result"], 1)
+        self.json("sound", "clip", "clip.wav", "stream.mmf", "--stream")
+        facts = self.json("sound", "info", "clip.mmf", "stream.mmf", "clip.wav")
+        self.assertEqual([(fact["kind"], fact["durationMs"]) for fact in facts],
+                         [("smaf", 252), ("smaf", 252), ("wav", 250)])
+        self.assertEqual((facts[0]["title"], facts[0]["waves"][0]["length"]), ("A, b", 1001))
+        self.json("sound", "extract", "clip.mmf", "again.wav")
+        with wave.open(str(self.work / "again.wav")) as again:
+            self.assertEqual((again.getframerate(), again.getnframes()), (8000, 2002))
+            last = struct.unpack("<2002h", again.readframes(2002))[2000]
+        self.assertLess(abs(last - 8000), 200)
+
+        before = (self.work / "clip.wav").read_bytes()
+        (self.work / "link").symlink_to("clip.wav")
+        for words in (["adpcm", "clip.wav", "clip.wav"], ["adpcm", "clip.wav", "link"], ["clip", "link", "clip.wav"],
+                      ["adpcm", "clip.mmf", "new"], ["clip", "none", "new"], ["adpcm", "clip.wav", "none/new"],
+                      ["extract", "clip.wav", "new"], ["extract", "clip.mmf", "new", "--wave", "2"]):
+            self.assertEqual(self.json("sound", *words, status=1)["result"], 0, words)
+        self.assertEqual((self.work / "clip.wav").read_bytes(), before)
+        self.assertFalse((self.work / "new").exists())
+        self.assertFalse(self.json("sound", "info", "clip.bin", status=1)[0]["result"])
 
     def test_exif_prints_every_field_and_goes_on_past_failures(self):
         photos = self.work / "photos"
