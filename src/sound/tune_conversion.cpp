@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sound/tune_conversion.h"
+
+#include "platform/file_system.h"
+#include "platform/services.h"
+#include "sound/note_conversion.h"
+#include "sound/smaf_conversion.h"
+
+#include <string_view>
+
+namespace sound
+{
+
+namespace
+{
+
+void AddParts(std::string_view text, std::string_view divider, std::vector<std::string>& parts)
+{
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(divider), text.size());
+        parts.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + divider.size(), text.size()));
+    }
+}
+
+// Replaces the tune by what the note converter makes of it.
+void ConvertNotes(std::string& midi, Tune& tune)
+{
+    CNoteConversion notes;
+    notes.Examine(midi);
+    auto rewritten = notes.Rewrite(midi);
+    if (!rewritten)
+        return;
+    midi = std::move(*rewritten);
+    tune.hasNotes = true;
+    const std::string log = notes.LogText();
+    AddParts(std::string_view(log).substr(std::min(log.find('\n'), log.size() - 1) + 1), "\n", tune.leftOut);
+}
+
+}  // namespace
+
+Tune ConvertTune(const std::string& source, unsigned chip)
+{
+    Tune tune;
+    auto midi = platform::Os().files->ReadWhole(source, kLongestTuneFile);
+    if (!midi) {
+        tune.error = platform::Os().files->LastError();
+        return tune;
+    }
+    ConvertNotes(*midi, tune);
+    auto length = static_cast<unsigned>(midi->size() * platform::kSmafRoomFactor + platform::kSmafRoomMore);
+    const unsigned room = length;
+    std::string smaf(room, '\0');
+    tune.result = CSmafConversion().S2SConvert(midi->data(), static_cast<unsigned>(midi->size()), smaf.data(),
+                                               &length, chip, 0, tune.error);
+    if (tune.result != platform::kSmafDone)
+        return tune;
+    if (length == 0 || length > room) {
+        tune.result = platform::kSmafNotConverted;
+        tune.error = "The converter gave no file.";
+        return tune;
+    }
+    AddParts(tune.error, "; ", tune.leftOut);
+    tune.error.clear();
+    smaf.resize(length);
+    tune.smaf = std::move(smaf);
+    return tune;
+}
+
+}  // namespace sound
