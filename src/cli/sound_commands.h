@@ -8,6 +8,10 @@
 namespace cli
 {
 
+// Whether both paths lead to one file.
+bool IsSameFile(const std::string& one, const std::string& other);
+
+void AddTuneCommands(CLI::App& sound, CContext& context);  // notes, smaf
 void AddWaveCommands(CLI::App& sound, CContext& context);  // adpcm, clip, extract
 void AddInfoCommand(CLI::App& sound, CContext& context);
 

@@ -25,14 +25,6 @@ struct WaveArguments {
     std::size_t wave = 1;
 };
 
-// Whether both paths lead to one file.
-bool IsSameFile(const std::string& one, const std::string& other)
-{
-    const auto file = platform::Os().files->Open(one, platform::OpenMode::read);
-    const auto target = platform::Os().files->ResolveLink(other);
-    return file && target && file->IsStill(*target);
-}
-
 bool WriteTarget(CContext& context, const WaveArguments& arguments, std::span<const std::uint8_t> bytes)
 {
     if (IsSameFile(arguments.source, arguments.target)) {

@@ -77,4 +77,13 @@ ConvertedNames FindConvertedNames(const std::string& folder, const std::string& 
     return names;
 }
 
+std::string LogPathFor(const std::string& output)
+{
+    const std::size_t nameStart = output.rfind('/') + 1;
+    const std::size_t dot = output.rfind('.');
+    const std::string path =
+        (dot != std::string::npos && dot >= nameStart ? output.substr(0, dot) : output) + ".LOG";
+    return path == output ? output + ".LOG" : path;
+}
+
 }  // namespace sound

@@ -18,4 +18,7 @@ struct ConvertedNames {
 // its last dot. The log has the same number, or where that is taken too, the next one free.
 ConvertedNames FindConvertedNames(const std::string& folder, const std::string& sourceName);
 
+// The log that goes with a file of a chosen name: its path with ".LOG" as extension, taken or not.
+std::string LogPathFor(const std::string& output);
+
 }  // namespace sound

@@ -6,10 +6,10 @@
 #include "platform/services.h"
 #include "platform/utility.h"
 #include "sound/converted_names.h"
-#include "sound/tune_conversion.h"
 
 #include <algorithm>
 #include <new>
+#include <sstream>
 
 namespace sound
 {
@@ -174,6 +174,15 @@ std::string CNoteConversion::LogText() const
         return {};
     std::string text(std::min(size, kLongestLog), '\0');
     return GetLog(text.data(), static_cast<unsigned>(text.size())) == kNoteDone ? text : std::string();
+}
+
+std::vector<std::string> CNoteConversion::LogLines() const
+{
+    std::istringstream text(LogText());
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 }  // namespace sound

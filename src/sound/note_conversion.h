@@ -12,9 +12,13 @@
 #include "sound/program_library.h"
 
 #include <optional>
+#include <vector>
 
 namespace sound
 {
+
+// Longer MIDI files are not read.
+constexpr std::uint64_t kLongestTuneFile = 64U << 20;
 
 class CNoteConversion
 {
@@ -49,8 +53,10 @@ public:
     // The same steps without files: Examine makes it ready, Rewrite gives the converted file or nothing.
     void Examine(const std::string& midi);
     std::optional<std::string> Rewrite(const std::string& midi) const;
-    // What the library says of its latest conversion: lines, the first a summary, the rest what was left out.
+    // What the library says of its latest call: of a conversion a summary and then, a line each, what was
+    // left out; of a source that it does not detect the reason.
     std::string LogText() const;
+    std::vector<std::string> LogLines() const;
 
 private:
     bool FindEntries();

@@ -7,6 +7,7 @@
 #include "sound/note_conversion.h"
 #include "sound/smaf_conversion.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace sound
@@ -15,12 +16,14 @@ namespace sound
 namespace
 {
 
-void AddParts(std::string_view text, std::string_view divider, std::vector<std::string>& parts)
+// The parts of the converter's text about what was left out.
+void AddParts(std::string_view text, std::vector<std::string>& parts)
 {
+    constexpr std::string_view kDivider = "; ";
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find(divider), text.size());
+        const std::size_t end = std::min(text.find(kDivider), text.size());
         parts.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + divider.size(), text.size()));
+        text.remove_prefix(std::min(end + kDivider.size(), text.size()));
     }
 }
 
@@ -34,8 +37,19 @@ void ConvertNotes(std::string& midi, Tune& tune)
         return;
     midi = std::move(*rewritten);
     tune.hasNotes = true;
-    const std::string log = notes.LogText();
-    AddParts(std::string_view(log).substr(std::min(log.find('\n'), log.size() - 1) + 1), "\n", tune.leftOut);
+    tune.leftOut = notes.LogLines();
+    if (!tune.leftOut.empty())
+        tune.leftOut.erase(tune.leftOut.begin());  // the summary
+}
+
+// Why a conversion failed that told no reason.
+std::string SilentFailure(const std::string& midi, int result)
+{
+    if (midi.empty())
+        return "The source is empty.";
+    if (result == platform::kSmafNotConverted)
+        return std::string("The voice bank ") + platform::kVoiceBankFile + " cannot be read.";
+    return "The converter failed with " + std::to_string(result) + ".";
 }
 
 }  // namespace
@@ -54,14 +68,16 @@ Tune ConvertTune(const std::string& source, unsigned chip)
     std::string smaf(room, '\0');
     tune.result = CSmafConversion().S2SConvert(midi->data(), static_cast<unsigned>(midi->size()), smaf.data(),
                                                &length, chip, 0, tune.error);
-    if (tune.result != platform::kSmafDone)
-        return tune;
-    if (length == 0 || length > room) {
+    if (tune.result == platform::kSmafDone && (length == 0 || length > room)) {
         tune.result = platform::kSmafNotConverted;
         tune.error = "The converter gave no file.";
+    }
+    if (tune.result != platform::kSmafDone) {
+        if (tune.error.empty())
+            tune.error = SilentFailure(*midi, tune.result);
         return tune;
     }
-    AddParts(tune.error, "; ", tune.leftOut);
+    AddParts(tune.error, tune.leftOut);
     tune.error.clear();
     smaf.resize(length);
     tune.smaf = std::move(smaf);

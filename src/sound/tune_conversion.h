@@ -14,8 +14,6 @@
 namespace sound
 {
 
-// Longer MIDI files are not read.
-constexpr std::uint64_t kLongestTuneFile = 64U << 20;
 // The handset takes no longer ones.
 constexpr std::uint64_t kLongestRingTone = 65536;
 
