@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <bit>
 
 namespace browser
 {
@@ -18,7 +19,7 @@ namespace
 
 constexpr int kPatience = 10'000;  // milliseconds
 constexpr std::uint64_t kLongestBook = 256ULL << 20;
-constexpr std::size_t kFewestLines = 1'000;  // shorter books stay as they are
+constexpr std::uint64_t kSmallBook = 1ULL << 18;  // shorter ones stay as they are
 
 platform::CFileSystem& Files()
 {
@@ -86,53 +87,56 @@ bool CCaptionBook::Record(std::span<const CaptionedFile> files)
     if (!lock) {
         return path.empty() || files.empty();
     }
-    TakeInChanges();
     std::string added;
     for (const CaptionedFile& captioned : files) {
-        const std::string key = KeyOf(captioned.name, captioned.size, captioned.lastWriteTime);
-        const auto held = texts.find(key);
-        if (held == texts.end() ? !captioned.texts.IsEmpty() : held->second != captioned.texts) {
-            added += LineOf(key, captioned.texts);
-            texts[key] = captioned.texts;
-            ++lines;
-        }
+        added += LineOf(KeyOf(captioned.name, captioned.size, captioned.lastWriteTime), captioned.texts);
     }
-    if (added.empty()) {
-        return true;
-    }
-    return Append(added) && (lines < kFewestLines || lines < 3 * texts.size() || WriteAnew());
-}
-
-bool CCaptionBook::Append(std::string added)
-{
     auto file = Files().Open(path, platform::OpenMode::readWrite);
     if (!file) {
         file = Files().Open(path, platform::OpenMode::createNew);
     }
     const auto stamp = file ? file->Stamp() : std::nullopt;
+    if (!stamp || !Append(*file, stamp->size, added)) {
+        known = {};
+        return false;
+    }
+    // What was read before stays true with the new lines; what was not is not read for them.
+    if (*stamp == known) {
+        for (const CaptionedFile& captioned : files) {
+            texts[KeyOf(captioned.name, captioned.size, captioned.lastWriteTime)] = captioned.texts;
+        }
+        lines += files.size();
+        known = file->Stamp().value_or(platform::FileStamp());
+    }
+    const std::uint64_t size = stamp->size + added.size();
+    return size < kSmallBook || std::bit_width(stamp->size) == std::bit_width(size) || WriteAnew();
+}
+
+// On the medium when it returns true.
+bool CCaptionBook::Append(platform::CFile& file, std::uint64_t end, std::string added)
+{
     std::byte last{'\n'};
-    if (stamp && stamp->size > 0) {
-        file->ReadAt(stamp->size - 1, std::span(&last, 1));
+    if (end > 0) {
+        file.ReadAt(end - 1, std::span(&last, 1));
     }
     // What a kill has left of a line is ended; it has too few fields to be read.
     if (last != std::byte{'\n'}) {
         added.insert(0, 1, '\n');
     }
-    if (!stamp || !file->WriteAt(stamp->size, std::as_bytes(std::span(added))) || !file->MarkChanged() ||
-        !file->Sync()) {
-        known = {};
-        return false;
-    }
-    known = file->Stamp().value_or(platform::FileStamp());
-    return true;
+    return file.WriteAt(end, std::as_bytes(std::span(added))) && file.MarkChanged() && file.Sync();
 }
 
-bool CCaptionBook::WriteAnew() const
+bool CCaptionBook::WriteAnew()
 {
+    TakeInChanges();
+    const auto held = std::ranges::count_if(texts, [](const auto& entry) { return !entry.second.IsEmpty(); });
+    if (lines < 2 * static_cast<std::size_t>(held)) {
+        return true;
+    }
     std::string book;
-    for (const auto& [key, held] : texts) {
-        if (!held.IsEmpty()) {
-            book += LineOf(key, held);
+    for (const auto& [key, recorded] : texts) {
+        if (!recorded.IsEmpty()) {
+            book += LineOf(key, recorded);
         }
     }
     return Files().ReplaceFile(path, std::as_bytes(std::span(book)));

@@ -5,8 +5,8 @@
 // Thumbnail archives come and go: they may be deleted to make room, be damaged, or lose their folder when
 // that is renamed by another program. The book, "captions.tsv" beside the store's folder (layout:
 // docs/formats/captions.md), gives a photo of the same name, size and time its texts back when its next
-// member is made. It only grows by lines at its end, and is written anew without what is out of date when
-// that makes up most of it.
+// member is made. It grows by lines at its end, and each time its size has doubled it is written anew without
+// what is out of date, when that is half of it.
 //
 // Several processes may use one book. One object, one thread.
 #pragma once
@@ -48,8 +48,8 @@ public:
 
 private:
     void TakeInChanges();
-    bool Append(std::string added);
-    bool WriteAnew() const;
+    static bool Append(platform::CFile& file, std::uint64_t end, std::string added);
+    bool WriteAnew();
 
     std::string path;
     platform::FileStamp known;

@@ -191,7 +191,7 @@ bool CThumbnailStore::PutInPlace(CPackageArchive& opened, const std::string& tem
     if (!opened.AddFile(temporary, options) || (old && !opened.Remove(*old))) {
         return false;
     }
-    if (isUsers) {
+    if (isUsers && old) {
         book.Record(std::span(&captioned, 1));
     }
     return true;
