@@ -190,6 +190,8 @@ void CPackageArchive::Forget()
     index.reset();
     archivePath.clear();
     newTexts.clear();
+    replacement.reset();
+    replacementIndex.reset();
     deflater.reset();
     changed = false;
 }
@@ -309,16 +311,25 @@ bool CPackageArchive::Compact()
         return false;
     if (!NeedsCompaction())
         return true;
-    const auto replacement = Files().BeginReplacement(archivePath);
+    return WriteReplacement() && PutReplacement();
+}
+
+bool CPackageArchive::WriteReplacement()
+{
+    replacement = Files().BeginReplacement(archivePath);
     if (!replacement)
         return FailAs("the archive cannot be replaced");
     platform::CFile& target = replacement->File();
-    auto compacted = WriteCompacted(*file, *index, newTexts, target);
-    if (!compacted)
-        return FailAs("the new archive cannot be written");
+    replacementIndex = WriteCompacted(*file, *index, newTexts, target);
+    return replacementIndex != nullptr || FailAs("the new archive cannot be written");
+}
+
+bool CPackageArchive::PutReplacement()
+{
+    platform::CFile& target = replacement->File();
     const auto written = target.MarkChanged() ? target.Stamp() : std::nullopt;
     if (written)
-        KeepTailNote(target, *written, *compacted);
+        KeepTailNote(target, *written, *replacementIndex);
     if (!file->IsStill(archivePath))
         return Fail("the archive was replaced or deleted by another program");
     // The lock is held until the new file is in its place: whoever waits for it then finds that the name
@@ -326,9 +337,34 @@ bool CPackageArchive::Compact()
     if (!replacement->Commit())
         return FailAs("the archive cannot be replaced");
     if (written)
-        KeepIndex(archivePath, *written, std::move(compacted));
+        KeepIndex(archivePath, *written, std::move(replacementIndex));
     file.reset();
     return true;
+}
+
+bool CPackageArchive::PrepareCompaction()
+{
+    if (!IsOpen() || mode != Mode::read || index->Header() != HeaderState::whole)
+        return Fail("no archive is open for reading");
+    if (!ReadAll())
+        return false;
+    auto unlocked = Files().Open(archivePath, platform::OpenMode::read);
+    if (!unlocked || unlocked->Stamp() != stamp)
+        return Fail("the archive was replaced or deleted by another program");
+    file = std::move(unlocked);
+    return WriteReplacement();
+}
+
+bool CPackageArchive::CommitCompaction()
+{
+    auto locked = replacement ? Files().Open(archivePath, platform::OpenMode::readWrite) : nullptr;
+    const bool isAsRead =
+        locked && locked->Lock(platform::LockKind::exclusive, patience) && locked->Stamp() == stamp;
+    if (isAsRead)
+        file = std::move(locked);
+    const bool done = isAsRead ? PutReplacement() : Fail("the archive has changed");
+    Forget();
+    return done;
 }
 
 }  // namespace archive

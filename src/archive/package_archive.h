@@ -104,6 +104,12 @@ public:
     // found.
     bool SetName(std::size_t position, const std::string& name);
 
+    // Close with compaction in two parts, for an archive that was opened for reading. The first does the long
+    // work and lets go of the lock. The second fails when somebody has changed the archive in between; it
+    // closes the archive in any case.
+    bool PrepareCompaction();
+    bool CommitCompaction();
+
     std::optional<RawMember> TakeRaw(std::size_t position);
     // Appends the member as it is, as AddFile.
     bool AddRaw(const RawMember& member);
@@ -144,6 +150,8 @@ private:
     bool EndAdding(bool written, PackageMember member);
     bool NeedsCompaction() const;
     bool Compact();
+    bool WriteReplacement();
+    bool PutReplacement();
     void Forget();
 
     std::unique_ptr<platform::CFile> file;
@@ -154,6 +162,9 @@ private:
     bool changed = false;            // the file, since it was opened
     bool damaged = false;            // the member of the latest extraction
     std::set<std::size_t> newTexts;  // members whose name or texts in memory differ from the file's
+    // The compacted archive, when it is written and not yet in its place.
+    std::unique_ptr<platform::CReplacement> replacement;
+    std::unique_ptr<CPackageIndex> replacementIndex;
     std::unique_ptr<CDeflater> deflater;
     std::atomic<bool> aborted = false;
     int patience = 10'000;

@@ -216,7 +216,7 @@ void CChangeJournal::Settle(COpenEntry& opened, JournalEntry entry, CThumbDbMgr&
             carried.push_back({step.path, step.origin});
         }
     }
-    if (CarryMembers(manager, carried, CarryKind::move)) {
+    if (CarryMembers(manager, carried, CarryKind::moveAgain)) {
         entry.record.steps = std::move(done);
         opened.Write(JournalState::done, entry.record);
     }

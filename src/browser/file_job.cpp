@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "browser/file_job.h"
 
+#include "browser/carry_ahead.h"
 #include "browser/change_journal.h"
 #include "browser/clash_names.h"
 #include "browser/file_names.h"
@@ -93,9 +94,15 @@ private:
         if (planned.steps.empty())
             return true;
         written = CChangeJournal(request.stores.journal).Begin(planned);
-        if (!written)
+        if (!written) {
             run.Note({request.stores.journal, FileFailure::other, Os().files->LastError()});
-        return written != nullptr;
+            return false;
+        }
+        std::vector<CarriedPath> toBeMoved;
+        for (const UndoStep& step : planned.steps)
+            toBeMoved.push_back({step.origin, step.path, false});
+        ahead = std::make_unique<CCarryAhead>(request.stores.thumbnails, std::move(toBeMoved));
+        return true;
     }
 
     const std::string& TargetOf(std::size_t number) const
@@ -106,6 +113,8 @@ private:
     // What the thumbnail store holds of the files goes with them.
     bool Carry()
     {
+        if (ahead && ahead->Finish(moved))
+            return true;
         const bool done = CarryInStore(request.stores.thumbnails, moved, CarryKind::move) &&
                           CarryInStore(request.stores.thumbnails, copied, CarryKind::copy);
         if (!done)
@@ -322,6 +331,7 @@ private:
     FileJobReport report;
     CJobRun run;
     std::unique_ptr<CChangeJournal::COpenEntry> written;
+    std::unique_ptr<CCarryAhead> ahead;
     std::vector<std::optional<platform::EntryFacts>> known;  // of what is to be renamed
     std::size_t item = 0;                                    // in work
     std::vector<CarriedPath> copied;

@@ -69,7 +69,7 @@ public:
 
     bool Files(const std::string& fromFolder, const std::string& toFolder, const Paths& paths)
     {
-        if (fromFolder == toFolder && kind == CarryKind::move) {
+        if (fromFolder == toFolder && kind != CarryKind::copy) {
             return !Has(fromFolder) || Rename(fromFolder, paths);
         }
         bool done = true;
@@ -82,37 +82,21 @@ public:
 
     bool Folder(const CarriedPath& path)
     {
-        return kind == CarryKind::move ? manager.FolderMoved(path.from, path.to) : CopyFolder(path);
+        return kind != CarryKind::copy ? manager.FolderMoved(path.from, path.to) : CopyFolder(path);
     }
 
 private:
     bool Has(const std::string& folder) const { return manager.GetDbFileForFolder(folder) != nullptr; }
 
-    // All members are found before the first gets its new name, which may be the old one of another.
     bool Rename(const std::string& folder, const Paths& paths)
     {
         CPackageArchive opened;
         if (!store.OpenForAdding(opened, folder)) {
             return false;
         }
-        std::vector<Renaming> renamings;
-        std::set<std::size_t> carried;
-        for (const CarriedPath& path : paths) {
-            if (const auto found = CThumbnailStore::FindMember(opened, path.from)) {
-                renamings.push_back({*found, CThumbnailStore::EntryName(path.to)});
-                carried.insert(*found);
-            }
-        }
-        bool done = true;
-        for (const auto& [position, name] : renamings) {
-            done = RemoveForeign(opened, name, carried) && done;
-        }
         std::vector<CaptionedFile> captioned;
-        for (const auto& [position, name] : renamings) {
-            done = opened.SetName(position, name) && done;
-            Note(opened.Member(position), captioned);
-        }
-        done = opened.Close(!renamings.empty()) && done;
+        bool done = RenameMembers(opened, paths, kind, captioned);
+        done = opened.Close(true) && done;
         store.Book().Record(captioned);
         return done;
     }
@@ -121,13 +105,17 @@ private:
                   std::span<const CarriedPath> paths)
     {
         std::vector<RawMember> members;
-        bool done = !Has(fromFolder) || Take(fromFolder, paths, members);
-        if (members.empty()) {
+        std::vector<std::string> bare;
+        bool done = Take(fromFolder, paths, members, bare);
+        if (members.empty() && (bare.empty() || !Has(toFolder))) {
             return done;
         }
         CPackageArchive target;
         if (!store.OpenForAdding(target, toFolder)) {
             return false;
+        }
+        for (const std::string& name : bare) {
+            done = RemoveForeign(target, name, {}) && done;
         }
         std::vector<CaptionedFile> captioned;
         for (const RawMember& member : members) {
@@ -137,19 +125,25 @@ private:
         }
         target.Close(false);
         store.Book().Record(captioned);
-        return done && (kind == CarryKind::copy || Drop(fromFolder, paths));
+        return done && (kind == CarryKind::copy || members.empty() || Drop(fromFolder, paths));
     }
 
-    bool Take(const std::string& folder, std::span<const CarriedPath> paths, std::vector<RawMember>& members)
+    // The members under their new names, and the new names of files that have none.
+    bool Take(const std::string& folder, std::span<const CarriedPath> paths, std::vector<RawMember>& members,
+              std::vector<std::string>& bare)
     {
         CPackageArchive opened;
-        if (!store.OpenForAdding(opened, folder)) {
+        if (Has(folder) && !store.OpenForAdding(opened, folder)) {
             return false;
         }
         for (const CarriedPath& path : paths) {
-            const auto found = CThumbnailStore::FindMember(opened, path.from);
-            const auto facts = platform::Os().files->FindFirstFile(path.to);
-            auto member = found && facts ? opened.TakeRaw(*found) : std::nullopt;
+            const auto found =
+                opened.IsOpen() ? CThumbnailStore::FindMember(opened, path.from) : std::nullopt;
+            if (!found && kind != CarryKind::moveAgain) {
+                bare.push_back(CThumbnailStore::EntryName(path.to));
+            }
+            const auto facts = found ? platform::Os().files->FindFirstFile(path.to) : std::nullopt;
+            auto member = facts ? opened.TakeRaw(*found) : std::nullopt;
             if (!member) {
                 continue;
             }
@@ -215,6 +209,35 @@ private:
 };
 
 }  // namespace
+
+// All members are found before the first gets its new name, which may be the old one of another.
+bool RenameMembers(CPackageArchive& opened, const Paths& paths, CarryKind kind,
+                   std::vector<CaptionedFile>& captioned)
+{
+    std::vector<Renaming> renamings;
+    std::vector<std::string> inTheWay;
+    std::set<std::size_t> carried;
+    for (const CarriedPath& path : paths) {
+        std::string name = CThumbnailStore::EntryName(path.to);
+        const auto found = CThumbnailStore::FindMember(opened, path.from);
+        if (found || kind != CarryKind::moveAgain) {
+            inTheWay.push_back(name);
+        }
+        if (found) {
+            renamings.push_back({*found, std::move(name)});
+            carried.insert(*found);
+        }
+    }
+    bool done = true;
+    for (const std::string& name : inTheWay) {
+        done = RemoveForeign(opened, name, carried) && done;
+    }
+    for (const auto& [position, name] : renamings) {
+        done = opened.SetName(position, name) && done;
+        Note(opened.Member(position), captioned);
+    }
+    return done;
+}
 
 bool CarryMembers(CThumbDbMgr& manager, const std::vector<CarriedPath>& paths, CarryKind kind)
 {

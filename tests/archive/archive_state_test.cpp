@@ -253,3 +253,24 @@ TEST_F(ArchiveState, AnArchiveReplacedWhileItWasAwaitedIsOpenedAnew)
         EXPECT_EQ(Contents(), mode == Mode::create ? "" : "z=hello ");
     }
 }
+
+TEST_F(ArchiveState, CompactionInTwoPartsGivesWayToWhoeverComesBetween)
+{
+    for (const bool isChanged : {false, true}) {
+        std::filesystem::remove(path);
+        CPackageArchive writer;
+        ASSERT_TRUE(writer.Open(path, Mode::create) && AddText(writer, "a", "1") && writer.Close(false));
+        CPackageArchive renamed;
+        ASSERT_TRUE(renamed.Open(path, Mode::read) && renamed.SetName(0, "b"));
+
+        ASSERT_TRUE(renamed.PrepareCompaction());
+        writer.SetPatience(0);
+        ASSERT_TRUE(writer.Open(path, Mode::readWrite)) << "the lock is let go of";
+        ASSERT_TRUE(!isChanged || AddText(writer, "c", "2"));
+        ASSERT_TRUE(writer.Close(false));
+
+        EXPECT_EQ(renamed.CommitCompaction(), !isChanged);
+        EXPECT_EQ(Contents(), isChanged ? "a=1 c=2 " : "b=1 ");
+        EXPECT_FALSE(renamed.CommitCompaction());
+    }
+}

@@ -5,6 +5,7 @@
 #include "photo/rename_pattern.h"
 #include "photo_fixture.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -106,6 +107,27 @@ TEST_F(BatchRename, CarriesThumbnailsAndCaptionsAlongAndBack)
     EXPECT_EQ(Undo(journal.Latest()->record).done, 3U);
     EXPECT_EQ(CaptionOf(photos[0]) + CaptionOf(photos[1]) + CaptionOf(photos[2]), "AC");
     EXPECT_TRUE(journal.List().empty());
+}
+
+// Whose members are written under their new names while the files get theirs.
+TEST_F(BatchRename, AsManyAsPayForWorkAheadAreCarriedAsWell)
+{
+    std::vector<std::string> photos;
+    for (int i = 0; i < 600; ++i)
+        photos.push_back(Make(fmt::format("{:03}.jpg", i)));
+    Caption({photos[0], photos[599]}, "A");
+
+    EXPECT_EQ(Rename(photos).done, 600U);
+    EXPECT_EQ(CaptionOf(Path("Photo0001.jpg")) + CaptionOf(Path("Photo0600.jpg")), "AA");
+    EXPECT_EQ(Undo(journal.Latest()->record).done, 600U);
+
+    // One file is gone, and a member is in the way.
+    Caption({Make("Photo0300.jpg")}, "old");
+    std::filesystem::remove(Path("Photo0300.jpg"));
+    std::filesystem::remove(photos[1]);
+    photos.push_back(Make("600.jpg"));
+    EXPECT_EQ(Rename(photos).done, 600U);
+    EXPECT_EQ(CaptionOf(Path("Photo0600.jpg")) + CaptionOf(Path("Photo0300.jpg")), "A");
 }
 
 TEST_F(BatchRename, RefusesToTakeBackWhatHasChangedSince)
