@@ -15,52 +15,59 @@ constexpr std::int32_t kLeastStep = 127;
 constexpr std::int32_t kGreatestStep = 24576;
 constexpr std::array<std::int32_t, 8> kMultipliers = {230, 230, 230, 230, 307, 409, 512, 614};
 
-// Brings predictor and step from one sample to the next.
-void Advance(AdpcmState& state, unsigned magnitude, bool isNegative)
+// All of a value for a bit that is set, else 0.
+inline std::int32_t If(unsigned bit, std::int32_t value)
 {
-    const std::int32_t step = state.step;
-    const std::int32_t change = ((magnitude & 4) != 0 ? step : 0) + ((magnitude & 2) != 0 ? step / 2 : 0) +
-                                ((magnitude & 1) != 0 ? step / 4 : 0) + step / 8;
-    state.predictor = std::clamp(state.predictor + (isNegative ? -change : change), -32768, 32767);
-    state.step = std::clamp(step * kMultipliers[magnitude] >> 8, kLeastStep, kGreatestStep);
+    return -static_cast<std::int32_t>(bit & 1) & value;
 }
 
-unsigned Encode(AdpcmState& state, std::int32_t sample)
+// Brings predictor and step from one sample to the next; `sign` is 0, or -1 for less. What depends on the
+// sound is computed rather than branched on, for a processor could not foresee it; what leaves the range is
+// rare.
+inline void Advance(AdpcmState& state, unsigned magnitude, std::int32_t sign)
+{
+    const std::int32_t step = state.step;
+    const std::int32_t change =
+        If(magnitude >> 2, step) + If(magnitude >> 1, step >> 1) + If(magnitude, step >> 2) + (step >> 3);
+    state.predictor += (change ^ sign) - sign;
+    if (state.predictor < -32768 || state.predictor > 32767) [[unlikely]] {
+        state.predictor = std::clamp(state.predictor, -32768, 32767);
+    }
+    state.step = std::max(step * kMultipliers[magnitude] >> 8, kLeastStep);
+    if (state.step > kGreatestStep) [[unlikely]] {
+        state.step = kGreatestStep;
+    }
+}
+
+inline unsigned Encode(AdpcmState& state, std::int32_t sample)
 {
     const std::int32_t difference = sample - state.predictor;
-    const bool isNegative = difference < 0;
-    std::int32_t rest = isNegative ? -difference : difference;
-    // The count of quarter steps in the difference, at most 7, without a division.
-    const std::int32_t quarter = state.step / 4;
+    const std::int32_t sign = difference >> 31;
+    const std::int32_t size = (difference ^ sign) - sign;
+    // The count of quarter steps in it, at most 7: a division would take longer than the rest.
+    const std::int32_t quarter = state.step >> 2;
     unsigned magnitude = 0;
-    for (unsigned bit = 4; bit != 0; bit /= 2) {
-        const auto part = static_cast<std::int32_t>(bit) * quarter;
-        const bool fits = rest >= part;
-        magnitude |= fits ? bit : 0;
-        rest -= fits ? part : 0;
+    for (std::int32_t count = 1; count <= 7; ++count) {
+        magnitude += size >= quarter * count ? 1 : 0;
     }
-    Advance(state, magnitude, isNegative);
-    return (isNegative ? 8U : 0U) | magnitude;
+    Advance(state, magnitude, sign);
+    return (static_cast<unsigned>(sign) & 8) | magnitude;
 }
 
 }  // namespace
 
 void CAdpcmEncoder::Encode(std::span<const std::int16_t> samples, std::vector<std::uint8_t>& encoded)
 {
-    std::size_t i = 0;
-    if (halfByte && !samples.empty()) {
-        const unsigned nibble = sound::Encode(state, samples[i++]);
-        encoded.back() = static_cast<std::uint8_t>(encoded.back() | nibble << 4);
-        halfByte = false;
+    std::size_t nibbles = encoded.size() * 2 - (halfByte ? 1 : 0);
+    encoded.resize((nibbles + samples.size() + 1) / 2);
+    AdpcmState now = state;  // kept in registers
+    for (const std::int16_t sample : samples) {
+        std::uint8_t& byte = encoded[nibbles / 2];
+        byte = static_cast<std::uint8_t>(byte | sound::Encode(now, sample) << (nibbles % 2 * 4));
+        ++nibbles;
     }
-    const std::size_t begin = encoded.size();
-    encoded.resize(begin + (samples.size() - i + 1) / 2);
-    for (std::size_t at = begin; i < samples.size(); ++at, i += 2) {
-        const unsigned low = sound::Encode(state, samples[i]);
-        halfByte = i + 1 == samples.size();
-        const unsigned high = halfByte ? 0 : sound::Encode(state, samples[i + 1]);
-        encoded[at] = static_cast<std::uint8_t>(low | high << 4);
-    }
+    state = now;
+    halfByte = nibbles % 2 != 0;
 }
 
 std::vector<std::int16_t> DecodeAdpcm(std::span<const std::uint8_t> encoded)
@@ -70,7 +77,7 @@ std::vector<std::int16_t> DecodeAdpcm(std::span<const std::uint8_t> encoded)
     AdpcmState state;
     for (const std::uint8_t byte : encoded) {
         for (const int nibble : {byte & 15, byte >> 4}) {
-            Advance(state, static_cast<unsigned>(nibble & 7), (nibble & 8) != 0);
+            Advance(state, static_cast<unsigned>(nibble & 7), (nibble & 8) != 0 ? -1 : 0);
             samples.push_back(static_cast<std::int16_t>(state.predictor));
         }
     }

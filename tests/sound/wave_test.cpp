@@ -21,21 +21,11 @@ using Bytes = std::vector<std::uint8_t>;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class SizedFile : public support::CMemoryFile
-{
-public:
-    explicit SizedFile(const std::string& held) : CMemoryFile(held), size(held.size()) {}
-    std::optional<platform::FileStamp> Stamp() override { return platform::FileStamp{0, 0, size, 0}; }
-
-private:
-    std::uint64_t size;
-};
-
 // The data of a WAV file, or why there is none.
 std::string DataOf(const std::string& bytes)
 {
     sound::CWavFile file;
-    if (!file.Open(std::make_unique<SizedFile>(bytes)))
+    if (!file.Open(std::make_unique<support::CMemoryFile>(bytes)))
         return file.Error();
     std::string data(static_cast<std::size_t>(file.DataSize()) + 10, '\0');
     data.resize(file.Read(std::as_writable_bytes(std::span(data))));

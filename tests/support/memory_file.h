@@ -33,7 +33,7 @@ public:
     bool WriteAt(std::uint64_t, std::span<const std::byte>) override { return false; }
     bool Truncate(std::uint64_t) override { return false; }
     bool Sync() override { return false; }
-    std::optional<platform::FileStamp> Stamp() override { return std::nullopt; }
+    std::optional<platform::FileStamp> Stamp() override { return platform::FileStamp{0, 0, bytes.size(), 0}; }
     bool MarkChanged() override { return false; }
     bool Lock(platform::LockKind, int) override { return true; }
     bool IsStill(const std::string&) override { return true; }
