@@ -121,6 +121,18 @@ TEST(Adpcm, AnySoundIsEncodedAsByCountingAlsoInPieces)
     }
 }
 
+TEST(Adpcm, SilenceSwaysByAnEighthOfTheLeastStep)
+{
+    sound::CAdpcmEncoder encoder;
+    Bytes encoded;
+
+    encoder.Encode(std::vector<std::int16_t>(5), encoded);
+
+    EXPECT_THAT(encoded, ElementsAre(0x80, 0x80, 0x00));
+    EXPECT_EQ(encoder.State().step, 127);
+    EXPECT_EQ(encoder.State().predictor, 15);
+}
+
 class WaveRecords : public testing::Test
 {
 protected:
