@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes as a SMAF file, as they are and with the size and checksum that they should have: what is read takes
-// no more memory than the bytes allow, and what of it can be written reads the same again.
+// Any bytes as a SMAF file, as they are and with the size and checksum that they should have: what is read
+// takes no more memory than the bytes allow, and what of it can be written reads the same again.
 #include "score/crc16.h"
 #include "score/smaf_reader.h"
 #include "score/smaf_summary.h"
