@@ -119,12 +119,14 @@ private:
         queue.first = following[queue.first];
     }
 
-    void Close(ChipNote& note) const
+    void Close(ChipNote& note)
     {
-        if (note.endTick == kOpen) {
-            note.endTick = tick;
-            note.end = std::max(time, note.start + 1);
-        }
+        if (note.endTick != kOpen)
+            return;
+        note.endTick = tick;
+        note.end = std::clamp(time, note.start + 1, note.start + kSmafMaximumGate);
+        if (note.end < time)
+            ++result.report.notesTooLong;
     }
 
     void CloseAll()

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "score/midi_file.h"
+#include "score/smaf_file.h"
 
 #include <array>
 
@@ -42,6 +43,7 @@ struct ArrangementReport {
     std::uint32_t notesDropped = 0;    // for want of a voice
     std::uint32_t notesShortened = 0;  // for want of a voice
     std::uint32_t notesUnended = 0;    // that last to the file's end because nothing ends them
+    std::uint32_t notesTooLong = 0;    // cut at the longest gate
     std::uint16_t channels = 0;        // those with notes, a bit each
     std::uint32_t polyphony = 0;       // the most notes that the file has at once
     std::uint32_t voices = 0;          // what the chip has
@@ -58,7 +60,7 @@ struct ChipNote {
     std::uint64_t startTick = 0;
     std::uint64_t endTick = 0;
     std::uint32_t start = 0;     // units
-    std::uint32_t end = 0;       // later than the start
+    std::uint32_t end = 0;       // later than the start, by the longest gate at most
     std::uint32_t loudness = 0;  // velocity, volume and expression multiplied
     std::uint8_t channel = 0;
     std::uint8_t key = 0;

@@ -48,7 +48,7 @@ Bytes WithoutWrapper(Bytes bytes)
     return {};
 }
 
-// One chunk after the other, each cut at the end of the bytes.
+// One chunk after the other, each cut at the end of the bytes. A header behind a track begins another file.
 class CChunks
 {
 public:
@@ -57,6 +57,8 @@ public:
     bool Next()
     {
         if (rest.size() < kChunkHead)
+            return false;
+        if (isTrack && HasTag(rest, "MThd"))
             return false;
         isTrack = HasTag(rest, "MTrk");
         const std::size_t size = BigEndian(rest.subspan(4, 4));

@@ -4,9 +4,9 @@
 //
 // A RIFF wrapper ("RMID"), chunks that are not known, a header of more than six bytes and a wrong number of
 // tracks are no hindrance. A track that is cut off or makes no sense from some place on gives its events up
-// to there, and is counted as damaged. What refuses the whole file is told by MidiError. Memory stays in
-// proportion to the bytes: no number of the file makes anything larger. Nothing throws but for a lack of
-// memory.
+// to there, and is counted as damaged. A second file behind the first is left alone. What refuses the whole
+// file is told by MidiError. Memory stays in proportion to the bytes: no number of the file makes anything
+// larger. Nothing throws but for a lack of memory.
 #pragma once
 
 #include <cstdint>

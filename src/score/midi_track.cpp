@@ -160,11 +160,12 @@ std::optional<std::span<const std::uint8_t>> CMidiTrackReader::ReadCounted()
     return data;
 }
 
+// Some writers put 255 for the highest value.
 std::optional<std::uint8_t> CMidiTrackReader::ReadDataByte()
 {
-    if (place == bytes.size() || bytes[place] >= 0x80)
+    if (place == bytes.size())
         return std::nullopt;
-    return bytes[place++];
+    return std::min<std::uint8_t>(bytes[place++], 0x7F);
 }
 
 void CMidiTrackReader::Add(MidiEventKind kind, std::uint8_t channel, std::uint8_t first, std::uint8_t second)

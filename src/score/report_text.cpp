@@ -67,6 +67,7 @@ std::vector<std::string> LossLines(const ArrangementReport& report)
     add(report.notesShortened, ("note shortened" + more).c_str(), ("notes shortened" + more).c_str());
     add(report.notesUnended, "note without an end lasts to the end of the tune",
         "notes without an end last to the end of the tune");
+    add(report.notesTooLong, "note cut, of more than 2:19:48 hours", "notes cut, of more than 2:19:48 hours");
     for (const IgnoredText& text : kIgnoredTexts) {
         if (const std::uint32_t number = report.Count(text.kind); number > 0)
             lines.push_back("left out: " + Counted(number, text.one, text.many));

@@ -22,7 +22,9 @@ void AddParts(std::string_view text, std::vector<std::string>& parts)
     constexpr std::string_view kDivider = "; ";
     while (!text.empty()) {
         const std::size_t end = std::min(text.find(kDivider), text.size());
-        parts.emplace_back(text.substr(0, end));
+        // Of what both converters tell, once.
+        if (std::ranges::find(parts, text.substr(0, end)) == parts.end())
+            parts.emplace_back(text.substr(0, end));
         text.remove_prefix(std::min(end + kDivider.size(), text.size()));
     }
 }

@@ -33,10 +33,9 @@ public:
         if (!channel.hasVolume)
             Add(SmafEventKind::control, note.start, note.channel, kVolume, kUsualVolume);
         channel.hasVolume = true;
-        const std::uint32_t gate = std::min(note.end - note.start, score::kSmafMaximumGate);
         Add(SmafEventKind::note, note.start, note.channel, note.key, note.velocity);
-        track.events.back().gate = gate;
-        track.end = std::max<std::uint64_t>(track.end, std::uint64_t{note.start} + gate);
+        track.events.back().gate = note.end - note.start;
+        track.end = std::max<std::uint64_t>(track.end, note.end);
     }
 
     void Change(const score::ChipChange& change)
