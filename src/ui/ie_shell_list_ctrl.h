@@ -66,6 +66,7 @@ public:
     void SelectNone();
     void InvertSelection();
     // In the order of the list.
+    std::vector<int> SelectedRows() const;
     std::vector<std::string> SelectedPaths() const;
     // The name of the item that takes over when the selected ones go; empty for none.
     std::string NameAfterSelection() const;

@@ -44,15 +44,22 @@ void CIEShellListCtrl::InvertSelection()
     View()->selectionModel()->select(all, QItemSelectionModel::Toggle);
 }
 
+std::vector<int> CIEShellListCtrl::SelectedRows() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : View()->selectionModel()->selection()) {
+        for (int row = range.top(); row <= std::min(range.bottom(), list.Count() - 1); ++row)
+            rows.push_back(row);
+    }
+    std::ranges::sort(rows);
+    return rows;
+}
+
 std::vector<std::string> CIEShellListCtrl::SelectedPaths() const
 {
     std::vector<std::string> paths;
-    const QItemSelectionModel& selection = *View()->selectionModel();
-    for (int row = 0; selection.hasSelection() && row < std::min(list.Count(), selection.model()->rowCount());
-         ++row) {
-        if (selection.isSelected(selection.model()->index(row, 0)))
-            paths.push_back(list.PathOf(row));
-    }
+    for (const int row : SelectedRows())
+        paths.push_back(list.PathOf(row));
     return paths;
 }
 

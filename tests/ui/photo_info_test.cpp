@@ -264,3 +264,27 @@ TEST_F(PhotoInfoTest, WhatWasTypedInThePaneIsStoredOrAskedAboutWhenTheSelectionG
     EXPECT_TRUE(QTest::qWaitFor([&] { return !frame->isVisible(); }));
     EXPECT_EQ(TextsOf("b.jpg").secondText, "last");
 }
+
+TEST_F(PhotoInfoTest, WhatCouldNotBeStoredStandsInItsFieldsAgain)
+{
+    Add("a.jpg");
+    Open();
+    Give("a.jpg", {"Old", {}, {}});
+    Run(CommandId::photoInfo);
+    SelectInPane({"a.jpg"});
+    const std::string store = application.DbFolder();
+    std::filesystem::rename(store, store + "-away");
+    std::ofstream(store) << "a file in its place";
+
+    TypeCaption(Pane(), QStringLiteral("Dunes"));
+    QTest::keyClick(Field<QComboBox>(Pane(), "caption")->lineEdit(), Qt::Key_Return);
+    Finish(&Pane());
+    EXPECT_TRUE(Pane().IsEdited());
+    EXPECT_EQ(Pane().Captions()->Caption(), "Dunes");
+
+    std::filesystem::remove(store);
+    std::filesystem::rename(store + "-away", store);
+    QTest::keyClick(Field<QComboBox>(Pane(), "caption")->lineEdit(), Qt::Key_Return);
+    Finish(&Pane());
+    EXPECT_EQ(TextsOf("a.jpg").caption, "Dunes");
+}

@@ -234,6 +234,24 @@ void CCaptionPage::TakeAsStored(const PhotoQuestion& question, const PhotoEdits&
     Revert();
 }
 
+void CCaptionPage::PutBack(const photo::TextChange& change)
+{
+    const auto putBack = [](Line& line, const std::optional<std::string>& text) {
+        if (!text || line.touched)
+            return;
+        line.touched = true;
+        line.field->setText(QString::fromStdString(*text));
+    };
+    putBack(captionLine, change.caption);
+    putBack(secondLine, change.secondText);
+    if (change.timeStamp && !StampEdit()) {
+        hasStamp->setCheckState(change.timeStamp->empty() ? Qt::Unchecked : Qt::Checked);
+        if (!change.timeStamp->empty())
+            stamp->setDate(DayOf(QString::fromStdString(*change.timeStamp)));
+    }
+    OnEdited();
+}
+
 void CCaptionPage::Revert()
 {
     captionLine.touched = false;

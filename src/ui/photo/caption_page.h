@@ -38,6 +38,8 @@ public:
     void Show(const PhotoQuestion& question, const PhotoInfo& info, bool afresh);
     // What is stored is as if these edits had been; `question` has the new name.
     void TakeAsStored(const PhotoQuestion& question, const PhotoEdits& edits);
+    // Texts that could not be stored stand in their fields again.
+    void PutBack(const photo::TextChange& change);
     // The captions to choose from.
     void Offer(const std::vector<std::string>& captions);
     void Revert();

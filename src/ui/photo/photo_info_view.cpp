@@ -48,11 +48,7 @@ FileJobReport SetTexts(const std::string& storeFolder, const std::vector<std::st
 PhotoQuestion AskAboutSelection(const CIEShellListCtrl& list)
 {
     PhotoQuestion question;
-    const QItemSelectionModel& selection = *list.View()->selectionModel();
-    const int rows = std::min(list.List().Count(), selection.model()->rowCount());
-    for (int row = 0; selection.hasSelection() && row < rows; ++row) {
-        if (!selection.isSelected(selection.model()->index(row, 0)))
-            continue;
+    for (const int row : list.SelectedRows()) {
         const browser::MediaItem& item = list.List().Item(row);
         question.paths.push_back(list.List().PathOf(row));
         question.isMedia = question.isMedia && !item.isFolder && item.types != 0;
@@ -89,7 +85,7 @@ CPhotoInfoView::CPhotoInfoView(CFileActions& jobs, QWidget* parent)
     addWidget(tabs);
     connect(captions, &CCaptionPage::Edited, this, &CPhotoInfoView::Edited);
     connect(captions, &CCaptionPage::Entered, this, &CPhotoInfoView::Entered);
-    connect(&actions, &CFileActions::Done, this, &CPhotoInfoView::Reload);
+    connect(&actions, &CFileActions::Done, this, &CPhotoInfoView::OnJobDone);
 }
 
 CPhotoInfoView::~CPhotoInfoView()
@@ -106,9 +102,17 @@ void CPhotoInfoView::Show(PhotoQuestion question)
     if (!about.paths.empty())
         facts->Begin(about.paths);
     awaiting = true;
+    given = {};
+    couldNotGive = false;
     captions->setEnabled(false);
     Read();
     Q_EMIT Edited();
+}
+
+void CPhotoInfoView::OnJobDone(const FileJobReport& report)
+{
+    couldNotGive = report.task == FileTask::setTexts && report.problemCount > 0;
+    Read();
 }
 
 void CPhotoInfoView::Reload()
@@ -145,6 +149,8 @@ void CPhotoInfoView::OnRead(const Answer& answer)
     tabs->setTabVisible(tabs->indexOf(exif), !text.isEmpty());
     captions->Offer(answer.history);
     captions->Show(about, answer.info, afresh);
+    if (std::exchange(couldNotGive, false))
+        captions->PutBack(given);
     captions->setEnabled(answer.info.found);
 }
 
@@ -175,6 +181,7 @@ void CPhotoInfoView::StoreTexts(const PhotoEdits& edits)
     const std::string caption = captions->Caption();
     const std::string& folder = about.storeFolder;
     if (edits.HasTexts()) {
+        given = edits.change;
         actions.Start(
             FileTask::setTexts, about.carriers,
             [folder, caption, paths = about.carriers, change = edits.change](browser::CFileJobHost& host) {

@@ -64,11 +64,14 @@ private:
     void Read();
     void OnRead(const Answer& answer);
     void StoreTexts(const PhotoEdits& edits);
+    void OnJobDone(const browser::FileJobReport& report);
 
     CFileActions& actions;
     PhotoQuestion about;
     std::shared_ptr<std::atomic<bool>> reading;  // set to true when its answer is no longer wanted
     bool awaiting = false;                       // these files are read for the first time
+    photo::TextChange given;                     // to the files on show, last
+    bool couldNotGive = false;
     QTabWidget* tabs;
     CPhotoFactsPage* facts;
     CCaptionPage* captions;
