@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Names and time stamps of several files at once, in the real window on real files.
 #include "photo/exif_builder.h"
-#include "platform_linux/linux_file_system.h"
-#include "platform_linux/linux_shell.h"
+#include "real_files_test.h"
 #include "ui/photo/rename_dialog.h"
 #include "ui/photo/time_stamp_dialog.h"
 #include "ui/words.h"
-#include "window_test_base.h"
 
 #include <QFileInfo>
 #include <QMessageBox>
@@ -24,18 +22,9 @@ namespace
 
 namespace fs = std::filesystem;
 
-class BatchTest : public support::WindowTest
+class BatchTest : public support::RealFilesTest<>
 {
 protected:
-    BatchTest() : realGuard(Real(realShell, realFiles)) {}
-    ~BatchTest() override { frame.reset(); }
-    static platform::Services Real(platform::CShell& shell, platform::CFileSystem& files)
-    {
-        platform::Services all = platform::Os();
-        all.shell = &shell;
-        all.files = &files;
-        return all;
-    }
     void Finish()
     {
         ASSERT_TRUE(QTest::qWaitFor([this] { return !frame->Files()->Jobs().IsBusy(); }, 30'000));
@@ -77,10 +66,6 @@ protected:
     {
         return QFileInfo(QString::fromStdString(folder + "/" + name)).lastModified();
     }
-
-    platform_linux::CLinuxShell realShell;
-    platform_linux::CLinuxFileSystem realFiles;
-    support::CServicesGuard realGuard;
 };
 
 }  // namespace

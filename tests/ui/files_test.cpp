@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the user does with files and folders, in the real window on real files.
-#include "platform_linux/linux_file_system.h"
-#include "platform_linux/linux_shell.h"
+#include "real_files_test.h"
 #include "ui/files/clash_dialog.h"
 #include "ui/files/desktop_apps.h"
 #include "ui/files/job_dialog.h"
 #include "ui/files/name_editor.h"
 #include "ui/files/name_text.h"
-#include "window_test_base.h"
 
 #include <QClipboard>
 #include <QDragEnterEvent>
@@ -54,10 +52,10 @@ public:
     }
 };
 
-class FilesTest : public support::WindowTest
+class FilesTest : public support::RealFilesTest<CSlowShell>
 {
 protected:
-    FilesTest() : realGuard(Real(realShell, realFiles)), other(services.folder.Path("other"))
+    FilesTest() : other(services.folder.Path("other"))
     {
         fs::create_directories(other);
         qputenv("XDG_DATA_HOME", QByteArray::fromStdString(services.folder.Path("data")));
@@ -66,13 +64,6 @@ protected:
     {
         frame.reset();
         qunsetenv("XDG_DATA_HOME");
-    }
-    static platform::Services Real(platform::CShell& shell, platform::CFileSystem& files)
-    {
-        platform::Services all = platform::Os();
-        all.shell = &shell;
-        all.files = &files;
-        return all;
     }
 
     // Waits for the jobs and for what they change in the window.
@@ -119,9 +110,6 @@ protected:
         return names;
     }
 
-    CSlowShell realShell;
-    platform_linux::CLinuxFileSystem realFiles;
-    support::CServicesGuard realGuard;
     std::string other;
 };
 

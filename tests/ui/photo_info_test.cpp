@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The photo information in its window and in the pane, with real files and a real thumbnail store.
-#include "platform_linux/linux_file_system.h"
-#include "platform_linux/linux_shell.h"
+#include "real_files_test.h"
 #include "ui/controls/message_box.h"
 #include "ui/dialogs/properties_dialog.h"
 #include "ui/photo/photo_facts_page.h"
 #include "ui/photo/photo_info_dialog.h"
-#include "window_test_base.h"
 
 #include <QTabWidget>
 
@@ -28,19 +26,9 @@ class CSilentHost : public browser::CFileJobHost
     bool Progress(const browser::FileJobProgress&) override { return true; }
 };
 
-class PhotoInfoTest : public support::WindowTest
+class PhotoInfoTest : public support::RealFilesTest<>
 {
 protected:
-    PhotoInfoTest() : realGuard(Real(realShell, realFiles)) {}
-    ~PhotoInfoTest() override { frame.reset(); }
-    static platform::Services Real(platform::CShell& shell, platform::CFileSystem& files)
-    {
-        platform::Services all = platform::Os();
-        all.shell = &shell;
-        all.files = &files;
-        return all;
-    }
-
     PhotoTexts TextsOf(const std::string& name)
     {
         browser::CThumbDbMgr manager(application.DbFolder());
@@ -104,10 +92,6 @@ protected:
         }
         ADD_FAILURE() << "no button " << text.toStdString();
     }
-
-    platform_linux::CLinuxShell realShell;
-    platform_linux::CLinuxFileSystem realFiles;
-    support::CServicesGuard realGuard;
 };
 
 }  // namespace
