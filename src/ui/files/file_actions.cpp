@@ -11,7 +11,6 @@
 #include "ui/files/file_mime.h"
 #include "ui/files/name_editor.h"
 #include "ui/files/new_folder_dialog.h"
-#include "ui/files/report_box.h"
 #include "ui/ie_shell_list_ctrl.h"
 #include "ui/item_painter.h"
 #include "ui/left_view.h"
@@ -34,11 +33,6 @@ namespace
 {
 
 using browser::FileTask;
-
-bool IsAtOrBelow(const std::string& path, const std::string& folder)
-{
-    return path == folder || path.starts_with(browser::JoinPath(folder, ""));
-}
 
 std::string FolderPath(const std::string& path)
 {
@@ -317,6 +311,9 @@ void CFileActions::Start(browser::FileJobRequest request)
 void CFileActions::Start(FileTask task, std::vector<std::string> paths, CFileJobs::WorkOnFiles work)
 {
     const std::size_t items = paths.size();
+    const auto isHere = [this](const std::string& path) { return FolderPath(path) == list.List().Folder(); };
+    if (task == FileTask::changeTimes && std::ranges::any_of(paths, isHere))
+        list.Follower().SwallowNextChange();
     asked.push_back({std::move(paths), list.List().Folder(), {}, {}});
     jobs.Start(task, items, std::move(work));
 }
@@ -340,98 +337,6 @@ void CFileActions::ReadJournal()
         undo.PushBelow(std::move(records));
         KeepUndo({});
     });
-}
-
-void CFileActions::OnFinished(const browser::FileJobReport& report)
-{
-    const Asked about = std::move(asked.front());
-    asked.pop_front();
-    KeepUndo(report);
-    ShowChanges(report, about);
-    AskAboutNoTrash(report);
-    Q_EMIT Done(report);
-}
-
-void CFileActions::KeepUndo(const browser::FileJobReport& report)
-{
-    undo.Push(report.undo);
-    Q_EMIT UndoChanged(UndoText(undo.Latest()), undo.Latest() != nullptr);
-}
-
-void CFileActions::ShowChanges(const browser::FileJobReport& report, const Asked& about)
-{
-    const std::string folder = list.List().Folder();
-    std::vector<std::string> names;
-    // A folder that the list leaves out takes no selection away.
-    const bool isShown = report.task != FileTask::makeFolder || list.List().IncludeFolder();
-    for (const std::string& path : report.results) {
-        if (isShown && FolderPath(path) == folder)
-            names.emplace_back(browser::FileName(path));
-    }
-    if (names.empty() && !about.nameAfter.empty() && about.folderOnShow == folder)
-        names = {about.nameAfter};
-    RefreshTrees(report, about);
-    if (const std::string place = NewPlaceOf(folder, report, about); place != folder)
-        Q_EMIT FolderMoved(place);
-    else
-        list.RefreshSelecting(names);
-}
-
-// Where the folder on show is now that it, or one above it, may have been moved or taken away.
-std::string CFileActions::NewPlaceOf(const std::string& folder, const browser::FileJobReport& report,
-                                     const Asked& about) const
-{
-    if (folder.empty() || platform::Os().shell->FindEntry(folder))
-        return folder;
-    const auto moved = [&folder](const std::string& from, const std::string& to) {
-        return !from.empty() && IsAtOrBelow(folder, from) ? to + folder.substr(from.size()) : std::string();
-    };
-    for (const browser::UndoStep& step : report.undo.steps) {
-        const std::string place = moved(step.origin, step.path);
-        if (!place.empty() && step.action == browser::UndoAction::moveBack)
-            return place;
-    }
-    for (const browser::UndoStep& step : about.undoing.steps) {
-        const std::string place = moved(step.path, step.origin);
-        if (!place.empty())
-            return step.origin.empty() ? FolderPath(step.path) : place;
-    }
-    for (const std::string& source : about.sources) {
-        if (IsAtOrBelow(folder, source))
-            return FolderPath(source);
-    }
-    return folder;
-}
-
-void CFileActions::RefreshTrees(const browser::FileJobReport& report, const Asked& about)
-{
-    std::set<std::string> folders;
-    for (const std::string& path : report.results)
-        folders.insert(FolderPath(path));
-    for (const std::string& path : about.sources)
-        folders.insert(FolderPath(path));
-    for (const auto* steps : {&report.undo.steps, &about.undoing.steps}) {
-        for (const browser::UndoStep& step : *steps) {
-            folders.insert(FolderPath(step.path));
-            folders.insert(FolderPath(step.origin));
-        }
-    }
-    for (CIEShellTreeCtrl* tree : left.Trees())
-        tree->RefreshFolders(folders);
-}
-
-void CFileActions::AskAboutNoTrash(const browser::FileJobReport& report)
-{
-    std::vector<std::string> paths;
-    for (const platform::FileProblem& problem : report.problems) {
-        if (problem.failure == platform::FileFailure::noTrash)
-            paths.push_back(problem.path);
-    }
-    const bool onlyThose = report.task == FileTask::trash && paths.size() == report.problemCount;
-    if (onlyThose && !paths.empty())
-        AskToRemove(paths, Counted(StringId::filesAskNoTrash, static_cast<qint64>(paths.size())));
-    else
-        TellReport(&window, report);
 }
 
 }  // namespace ui
