@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sound/wave_record.h"
 
+#include "platform/services.h"
 #include "sound/adpcm.h"
 #include "sound/wav_file.h"
 
@@ -92,8 +93,14 @@ std::optional<WaveRecord> EncodeWave(const std::string& path, const WaveRequest&
 
     CAdpcmEncoder encoder;
     std::vector<std::byte> block(static_cast<std::size_t>(std::min<std::uint64_t>(kBlock, file.DataSize())));
+    std::uint64_t total = 0;
     while (const std::size_t count = file.Read(block)) {
+        total += count;
         encoder.Encode(Samples(std::span(block).first(count), halves ? 2 : 1), record.data);
+    }
+    if (total != file.DataSize()) {
+        error = platform::Os().files->LastError();
+        return std::nullopt;
     }
     record.length = static_cast<std::uint32_t>(record.data.size());
     return record;

@@ -4,6 +4,7 @@
 #include "sound/adpcm.h"
 #include "sound/wav_file.h"
 #include "sound/wave_record.h"
+#include "support/faulty_file_system.h"
 #include "support/memory_file.h"
 #include "support/services_guard.h"
 #include "support/temp_folder.h"
@@ -204,6 +205,16 @@ TEST_F(WaveRecords, WhatTheChipCannotPlayIsRefused)
     }
     EXPECT_FALSE(sound::EncodeWave(folder.Path("none"), {}, error));
     EXPECT_TRUE(Encode(File({})));
+}
+
+TEST_F(WaveRecords, ADiskThatFailsHalfWayGivesNoHalfSound)
+{
+    support::CFaultyFileSystem faulty(*platform::Os().files);
+    faulty.badFrom = 300'000;
+    const support::CServicesGuard onFaulty(faulty);
+
+    EXPECT_FALSE(Encode(File(std::vector<std::int16_t>(400'000))));
+    EXPECT_NE(error, "");
 }
 
 TEST(WaveNumbers, FoldFromNinetyTwoOn)
