@@ -10,6 +10,9 @@ namespace score
 namespace
 {
 
+// Ring tones have some dozens.
+constexpr std::size_t kMostChunks = 4096;
+
 bool IsNumbered(std::string_view letters)
 {
     return letters == "MTR" || letters == "ATR" || letters == "Mwa" || letters == "Awa" || letters == "Dch";
@@ -30,6 +33,9 @@ SmafOpenChunk CSmafChunkWalk::Open(CSmafCursor& from, int depth)
     const std::uint32_t size = from.Long();
     if (size > from.Remaining()) {
         from.Fail(offset + 4, "a chunk is longer than what it lies in");
+    }
+    if (chunks.size() == kMostChunks) {
+        from.Fail(offset, "there are too many chunks");
     }
     SmafOpenChunk chunk{tag, number, from.Piece(size)};
     if (from.IsGood()) {

@@ -214,6 +214,10 @@ TEST(Smaf, DamageIsToldWithItsPlace)
 
         EXPECT_THAT(ReadingError(golden::Sealed(damaged)), HasSubstr(one.error)) << one.at;
     }
+    Bytes swarm = golden::kMobile;
+    for (int i = 0; i < 5000; ++i)
+        swarm.insert(swarm.begin() + 21, {'X', 'X', 'X', 'X', 0, 0, 0, 0});
+    EXPECT_THAT(ReadingError(golden::Sealed(swarm)), HasSubstr("too many chunks"));
 }
 
 TEST(Smaf, NoFileIsTakenThatIsCutOrHasOneByteChanged)
