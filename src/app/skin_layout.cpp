@@ -173,9 +173,7 @@ std::string DarkSkinFolder(const std::string& skinFolder)
     if (slash == std::string::npos) {
         return skinFolder;
     }
-    const std::string dark = skinFolder.substr(0, slash) + "/dark/";
-    const auto facts = Os().files->FindFirstFile(dark);
-    return facts && facts->isFolder ? dark : skinFolder;
+    return skinFolder.substr(0, slash) + "/dark/";
 }
 
 FontGroup ReadSkinFont(const std::string& skinFolder)

@@ -66,8 +66,8 @@ void ReadLayout(const std::string& skinFolder, std::string_view fileName, Window
 // out of the skin folder.
 std::string SkinFilePath(const std::string& skinFolder, std::string_view name);
 
-// The skin for a dark desktop: the folder "dark" beside the skin folder, or that one itself when there is
-// none.
+// The skin for a dark desktop: the folder "dark" beside the skin folder, there or not. Without one, dark
+// windows have no skin: colours for a light ground would leave texts that nobody can read.
 std::string DarkSkinFolder(const std::string& skinFolder);
 
 // Hands the interface's font of the skin to the utility library; what the skin names of it itself.
