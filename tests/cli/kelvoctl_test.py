@@ -295,6 +295,34 @@ class Kelvoctl(unittest.TestCase):
         self.assertFalse((self.work / "new").exists())
         self.assertFalse(self.json("sound", "info", "clip.bin", status=1)[0]["result"])
 
+    def test_a_tune_becomes_a_ring_tone_and_its_losses_are_told(self):
+        events = b"\0\x90\x3c\x64\0\xb0\x5b\x28\x60\x90\x3c\0\0\xff\x2f\0"
+        tune = b"MThd" + struct.pack(">IHHH", 6, 0, 1, 96) + b"MTrk" + struct.pack(">I", len(events)) + events
+        for name in ("tune.MID", "tune.midi"):
+            (self.work / name).write_bytes(tune)
+        left_out = "left out: 1 control that the chip does not know"
+
+        for number in ("", "1"):
+            told = self.json("sound", "notes", "tune.MID")
+            self.assertEqual(told, {"result": 1, "output": f"{self.work}/tune_Nc{number}.MID",
+                                    "log": f"{self.work}/tune_Nc{number}.LOG"})
+        self.assertEqual(self.run_it("sound", "notes", "tune.MID", "new.mid").stderr.decode(), f"tune.MID: {left_out}\n")
+        self.assertIn(left_out, (self.work / "new.LOG").read_text())
+        for name in ("tune.MID", "tune.midi"):
+            self.assertEqual(self.json("sound", "smaf", name, "tune.mmf"), {"result": 0, "error": "", "leftOut": [left_out]})
+        self.assertEqual(self.run_it("--quiet", "sound", "smaf", "tune.MID", "tune.mmf").stderr, b"")
+        fact = self.json("sound", "info", "tune.mmf")[0]
+        self.assertEqual((fact["notes"], fact["durationMs"]), (1, 500))
+
+        for words in (["notes", "tune.midi"], ["notes", "none.mid"], ["notes", "tune.MID", "tune.MID"],
+                      ["notes", "tune.MID", "none/x"]):
+            self.assertEqual(self.json("sound", *words, status=1), {"result": 0, "output": None, "log": None}, words)
+        for words in (["tune.mmf", "x.mmf"], ["tune.MID", "tune.MID"], ["none", "x.mmf"], ["tune.MID", "none/x.mmf"]):
+            told = self.json("sound", "smaf", *words, status=1)
+            self.assertTrue(told["result"] != 0 and told["error"], words)
+        self.assertFalse((self.work / "x.mmf").exists())
+        self.assertEqual((self.work / "tune.MID").read_bytes(), tune)
+
     def test_exif_prints_every_field_and_goes_on_past_failures(self):
         photos = self.work / "photos"
         photos.mkdir()
