@@ -44,6 +44,9 @@ std::string Reason(const sound::CNoteConversion& notes, const TuneArguments& arg
     if (!platform::Os().files->Open(arguments.source, platform::OpenMode::read)) {
         return platform::Os().files->LastError();
     }
+    if (!notes.WriteError().empty()) {
+        return "the result cannot be written: " + notes.WriteError();
+    }
     if (const auto lines = notes.LogLines(); !lines.empty()) {
         return lines[0];
     }

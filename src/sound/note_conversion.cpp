@@ -145,12 +145,16 @@ std::optional<std::string> CNoteConversion::Rewrite(const std::string& midi) con
 
 int CNoteConversion::ConvertTo(const std::string& output, const std::string& logPath)
 {
-    outputPath.clear();
-    writtenLog.clear();
+    for (std::string* text : {&outputPath, &writtenLog, &writeError})
+        text->clear();
     const auto source = isReady ? ReadSource(folder + "/" + name) : std::nullopt;
     const auto converted = source ? Rewrite(*source) : std::nullopt;
-    if (!converted || !platform::Os().files->ReplaceFile(output, std::as_bytes(std::span(*converted))))
+    if (!converted)
         return 0;
+    if (!platform::Os().files->ReplaceFile(output, std::as_bytes(std::span(*converted)))) {
+        writeError = platform::Os().files->LastError();
+        return 0;
+    }
     outputPath = output;
     isConverted = true;
     const std::string log = logPath.empty() ? std::string() : LogText();

@@ -49,6 +49,8 @@ public:
     // What was written; empty where nothing was.
     const std::string& Output() const { return outputPath; }
     const std::string& Log() const { return writtenLog; }
+    // Why the output could not be written; empty for another failure.
+    const std::string& WriteError() const { return writeError; }
 
     // The same steps without files: Examine makes it ready, Rewrite gives the converted file or nothing.
     void Examine(const std::string& midi);
@@ -77,6 +79,7 @@ private:
     platform::NoteConversionInfo info{};
     std::string outputPath;
     std::string writtenLog;
+    std::string writeError;
 };
 
 }  // namespace sound
