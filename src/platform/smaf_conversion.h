@@ -30,10 +30,9 @@ enum SmafConversionResult : int {
 };
 
 enum SmafChip : unsigned {
-    kSmafAnyChip =
-        0,         // the MA-3 for a tune that it plays whole, and the MA-5 knows such files too; else MA-5
-    kSmafMa3 = 5,  // 32 notes at once
-    kSmafMa5 = 6,  // 64 notes at once
+    kSmafAnyChip = 0,  // the MA-3 for a tune that it plays whole, else the MA-5
+    kSmafMa3 = 5,      // 32 notes at once
+    kSmafMa5 = 6,      // 64 notes at once
 };
 
 enum SmafFlag : unsigned {
