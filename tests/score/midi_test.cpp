@@ -201,9 +201,10 @@ TEST(Arrangement, TheQuietestGivesWayButDrumsAndTheNewestStay)
          At(0, {0xB1, 7, 10}) + on(0, 0, 1, 50) + on(1, 1, 2, 127) + on(1, 0, 3, 1) + At(9, {0x81, 2, 0}) +
              At(0, {0x80, 1, 0}) + At(0, {0x80, 3, 0}),
          "0-11 0:1/50 1-2 1:2/127 2-11 0:3/1 | 1 note shortened: more than 2 sound at once"},
-        {"none when one has just ended",
-         on(0, 0, 1, 50) + on(0, 0, 2, 50) + At(5, {0x80, 1, 0}) + on(0, 0, 3, 50),
-         "0-5 0:1/50 0-14 0:2/50 5-14 0:3/50 "},
+        {"none when one has just ended, then one",
+         on(0, 0, 1, 50) + on(0, 0, 2, 50) + At(5, {0x80, 1, 0}) + on(0, 0, 3, 50) + on(1, 1, 4, 1),
+         "0-5 0:1/50 0-6 0:2/50 5-15 0:3/50 6-15 1:4/1 | 1 note shortened: more than 2 sound at once"
+         "| 1 note without an end lasts to the end of the tune"},
     };
     for (const Case& test : kCases)
         EXPECT_EQ(Played(File(test.events + ends), 2), test.expected) << test.what;
