@@ -24,6 +24,7 @@ class CSerialPorts;
 class CPictureSources;
 class CScreen;
 class CScreenSaver;
+class CHandsetLink;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -42,6 +43,7 @@ struct Services {
     CPictureSources* pictureSources = nullptr;
     CScreen* screen = nullptr;
     CScreenSaver* screenSaver = nullptr;
+    CHandsetLink* handset = nullptr;
 };
 
 inline Services& Os()
