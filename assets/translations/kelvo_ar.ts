@@ -1216,6 +1216,10 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <source>There are no pictures here to show.</source>
    <translation type="unfinished">لا توجد هنا صور لعرضها.</translation>
   </message>
+  <message id="handsetDeleteFailed">
+   <source>Can not delete default "Photo" or "Ring".</source>
+   <translation type="unfinished">لا يمكن حذف "الصور" أو "النغمات" الافتراضية.</translation>
+  </message>
   <message id="infoTitle">
    <source>Information on %1</source>
    <translation type="unfinished">معلومات عن %1</translation>

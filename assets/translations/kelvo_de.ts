@@ -1108,6 +1108,10 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <source>There are no pictures here to show.</source>
    <translation type="unfinished">Hier gibt es keine Bilder, die gezeigt werden könnten.</translation>
   </message>
+  <message id="handsetDeleteFailed">
+   <source>Can not delete default "Photo" or "Ring".</source>
+   <translation type="unfinished">Vorgegebene „Fotos“ oder „Ruftöne“ können nicht gelöscht werden.</translation>
+  </message>
   <message id="infoTitle">
    <source>Information on %1</source>
    <translation type="unfinished">Informationen zu %1</translation>
