@@ -82,6 +82,7 @@ constexpr std::array kCommands = {
     Command{screenSaver, MenuId::tools, commandScreenSaver, ""},
     Command{screenCapture, MenuId::tools, commandScreenCapture, ""},
     Command{changeTimeStamp, MenuId::tools, commandChangeTimeStamp, "", Mark::none, true},
+    Command{convertTone, MenuId::tools, commandConvertTone, ""},
     Command{uploadToPc, MenuId::mobile, commandUploadToPc, "", Mark::none, false, missingHandset},
     Command{downloadToMobile, MenuId::mobile, commandDownloadToMobile, "", Mark::none, false, missingHandset},
     Command{messageCenter, MenuId::mobile, commandMessageCenter, "", Mark::none, false, missingHandset},

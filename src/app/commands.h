@@ -63,6 +63,7 @@ enum class CommandId {
     screenSaver,
     screenCapture,
     changeTimeStamp,
+    convertTone,
     uploadToPc,
     downloadToMobile,
     messageCenter,

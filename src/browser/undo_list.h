@@ -26,7 +26,8 @@ enum class FileTask {
     makePicture,
     undo,
     changeTimes,
-    setTexts
+    setTexts,
+    makeTones,
 };
 
 enum class UndoAction {

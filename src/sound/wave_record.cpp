@@ -4,7 +4,6 @@
 
 #include "platform/services.h"
 #include "sound/adpcm.h"
-#include "sound/wav_file.h"
 
 #include <algorithm>
 
@@ -20,16 +19,16 @@ constexpr std::size_t kBlock = 256 << 10;
 const char* Complaint(const CWavFile& file)
 {
     const WavFormat& format = file.Format();
+    if (SuitsHandset(format)) {
+        return file.DataSize() > kMostData ? "the sound is too long" : nullptr;
+    }
     if (format.sampleRate != 4000 && format.sampleRate != 8000) {
         return "the sample rate is neither 4000 nor 8000 Hz";
     }
     if (format.bitsPerSample != 16) {
         return "the samples are not of 16 bits";
     }
-    if (format.channels != 1) {
-        return "there is more than one channel";
-    }
-    return file.DataSize() > kMostData ? "the sound is too long" : nullptr;
+    return "there is more than one channel";
 }
 
 // The samples of little-endian bytes, or every second of them.
@@ -57,6 +56,12 @@ void SetName(WaveRecord& record, std::string_view name)
 }
 
 }  // namespace
+
+bool SuitsHandset(const WavFormat& format)
+{
+    return (format.sampleRate == 4000 || format.sampleRate == 8000) && format.bitsPerSample == 16 &&
+           format.channels == 1;
+}
 
 std::uint16_t WaveNumber(std::uint8_t a, std::uint8_t b)
 {

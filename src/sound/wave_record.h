@@ -5,6 +5,8 @@
 // EncodeWave makes one of a WAV file of 4000 or 8000 Hz, 16 bits and one channel; anything else is refused.
 #pragma once
 
+#include "sound/wav_file.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -38,6 +40,9 @@ struct WaveRequest {
 
 // Two numbers as one: from b = 92 on, a step of 49 in `a` no longer sets numbers apart. Handsets know it so.
 std::uint16_t WaveNumber(std::uint8_t a, std::uint8_t b);
+
+// Whether a recording of that form suits the handset's sound chip.
+bool SuitsHandset(const WavFormat& format);
 
 // The record of that file; nothing when it cannot be read or does not suit, with the reason in `error`.
 std::optional<WaveRecord> EncodeWave(const std::string& path, const WaveRequest& request, std::string& error);

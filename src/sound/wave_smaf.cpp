@@ -126,17 +126,17 @@ std::vector<const score::SmafWave*> WavesOf(const score::SmafFile& file)
     return waves;
 }
 
-std::optional<std::vector<std::uint8_t>> WaveAsWav(const score::SmafWave& wave)
+bool IsMonoAdpcm(const score::SmafWave& wave)
 {
-    constexpr std::size_t kMostBytes = 512 << 20;
-    if (wave.kind != score::SmafWaveKind::adpcm || wave.bits != 4 || wave.stereo ||
-        wave.data.size() > kMostBytes) {
-        return std::nullopt;
-    }
+    return wave.kind == score::SmafWaveKind::adpcm && wave.bits == 4 && !wave.stereo;
+}
+
+std::vector<std::uint8_t> PcmAsWav(std::span<const std::int16_t> samples, std::uint32_t rate)
+{
     constexpr std::uint32_t kBytesPerSample = 2;
     constexpr std::uint32_t kFormatSize = 16;
     constexpr std::uint32_t kHeaderSize = 44;
-    const auto size = static_cast<std::uint32_t>(wave.data.size() * 2 * kBytesPerSample);
+    const auto size = static_cast<std::uint32_t>(samples.size() * kBytesPerSample);
     std::vector<std::uint8_t> bytes;
     bytes.reserve(kHeaderSize + size);
     PutText(bytes, "RIFF");
@@ -145,16 +145,25 @@ std::optional<std::vector<std::uint8_t>> WaveAsWav(const score::SmafWave& wave)
     PutNumber(bytes, kFormatSize, 4);
     PutNumber(bytes, 1, 2);  // PCM
     PutNumber(bytes, 1, 2);  // channel
-    PutNumber(bytes, wave.rate, 4);
-    PutNumber(bytes, wave.rate * kBytesPerSample, 4);
+    PutNumber(bytes, rate, 4);
+    PutNumber(bytes, rate * kBytesPerSample, 4);
     PutNumber(bytes, kBytesPerSample, 2);
     PutNumber(bytes, 8 * kBytesPerSample, 2);
     PutText(bytes, "data");
     PutNumber(bytes, size, 4);
-    for (const std::int16_t sample : DecodeAdpcm(wave.data)) {
+    for (const std::int16_t sample : samples) {
         PutNumber(bytes, static_cast<std::uint16_t>(sample), 2);
     }
     return bytes;
+}
+
+std::optional<std::vector<std::uint8_t>> WaveAsWav(const score::SmafWave& wave)
+{
+    constexpr std::size_t kMostBytes = 512 << 20;
+    if (!IsMonoAdpcm(wave) || wave.data.size() > kMostBytes) {
+        return std::nullopt;
+    }
+    return PcmAsWav(DecodeAdpcm(wave.data), wave.rate);
 }
 
 }  // namespace sound

@@ -7,6 +7,7 @@
 #include "sound/wave_record.h"
 
 #include <optional>
+#include <span>
 
 namespace sound
 {
@@ -22,6 +23,11 @@ std::optional<score::SmafFile> WaveAsSmaf(const WaveRecord& record, const std::s
 
 // All waves of the file, those of audio tracks first.
 std::vector<const score::SmafWave*> WavesOf(const score::SmafFile& file);
+
+bool IsMonoAdpcm(const score::SmafWave& wave);
+
+// Samples of one channel as a WAV file; at most 2^30 of them.
+std::vector<std::uint8_t> PcmAsWav(std::span<const std::int16_t> samples, std::uint32_t rate);
 
 // A mono ADPCM wave as a WAV file; nothing for any other.
 std::optional<std::vector<std::uint8_t>> WaveAsWav(const score::SmafWave& wave);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/item_painter.h"
 
+#include "app/tone_facts.h"
 #include "browser/file_names.h"
 #include "browser/thumbnail_maker.h"
 #include "ui/display_text.h"
@@ -84,7 +85,7 @@ QString CItemPainter::IconName(const browser::MediaItem& item, IconUse use)
         return QStringLiteral("video");
     if (item.types & (browser::kTypePicture | browser::kTypeHandsetImage))
         return use == IconUse::kind ? QStringLiteral("photo") : QStringLiteral("picture-placeholder");
-    if (item.types & browser::kTypeSound)
+    if ((item.types & browser::kTypeSound) || app::ToneKindOf(item.name) != app::ToneKind::none)
         return QStringLiteral("sound");
     if (browser::LowerCase(browser::Extension(item.name)) == "asr")
         return QStringLiteral("search");

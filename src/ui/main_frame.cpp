@@ -59,7 +59,8 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
           *menu, [this](app::FrameMessage message, std::int64_t lParam) { SendMessage(message, lParam); },
           this)),
       fileCommands(router, *this), editCommands(router, *this), viewCommands(router, *this),
-      toolCommands(router, *this), helpCommands(router, *this), batchCommands(router, *this)
+      toolCommands(router, *this), helpCommands(router, *this), batchCommands(router, *this),
+      toneCommands(router, *this)
 {
     UseSkin(owner.SkinFolder());
     LoadSettings();

@@ -24,6 +24,7 @@
 #include "ui/photo/batch_commands.h"
 #include "ui/photo/photo_info_pane.h"
 #include "ui/status_bar.h"
+#include "ui/tone/tone_commands.h"
 #include "ui/viewer/viewer_pages.h"
 
 #include <QMainWindow>
@@ -115,6 +116,7 @@ private:
     CToolCommands toolCommands;
     CHelpCommands helpCommands;
     CBatchCommands batchCommands;
+    CToneCommands toneCommands;
 };
 
 }  // namespace ui

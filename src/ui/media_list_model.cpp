@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/media_list_model.h"
 
+#include "app/tone_facts.h"
 #include "browser/file_names.h"
 #include "browser/media_types.h"
 #include "ui/display_text.h"
@@ -24,7 +25,7 @@ QString TypeText(const browser::MediaItem& item)
         return Text(StringId::kindPicture, extension);
     if (item.types & browser::kTypeVideo)
         return Text(StringId::kindVideo, extension);
-    if (item.types & browser::kTypeSound)
+    if ((item.types & browser::kTypeSound) || app::ToneKindOf(item.name) != app::ToneKind::none)
         return Text(StringId::kindSound, extension);
     if (extension == QStringLiteral("ASR"))
         return Text(StringId::kindSearchResult);

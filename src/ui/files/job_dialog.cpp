@@ -46,6 +46,8 @@ QString Heading(browser::FileTask task, std::size_t items)
         return Text(StringId::filesMakingFolder);
     case browser::FileTask::makePicture:
         return Text(StringId::filesMakingFile);
+    case browser::FileTask::makeTones:
+        return Counted(StringId::toneMaking, count);
     case browser::FileTask::undo:
         return Counted(StringId::filesUndoing, count);
     }

@@ -67,6 +67,8 @@ QString Heading(FileTask task, qint64 count)
         return Text(StringId::filesNoFolderMade);
     case FileTask::makePicture:
         return Text(StringId::filesNoFileMade);
+    case FileTask::makeTones:
+        return Counted(StringId::toneNotMade, count);
     case FileTask::undo:
         return Counted(StringId::filesNotUndone, count);
     }
@@ -133,6 +135,8 @@ QString UndoText(const browser::UndoRecord* record)
         return Text(StringId::filesUndoFolderName, name);
     case FileTask::makePicture:
         return Text(StringId::filesUndoPasteName, name);
+    case FileTask::makeTones:
+        return forms(StringId::toneUndoName, StringId::toneUndo);
     default:
         return forms(StringId::filesUndoDeleteName, StringId::filesUndoDelete);
     }

@@ -6,6 +6,7 @@
 #include "ui/display_text.h"
 #include "ui/media_list_model.h"
 #include "ui/theme.h"
+#include "ui/tone/tone_text.h"
 #include "ui/words.h"
 
 #include <QLineEdit>
@@ -101,7 +102,8 @@ QLabel* MakeValue(QWidget* parent)
 
 }  // namespace
 
-CPhotoFactsPage::CPhotoFactsPage(QWidget* parent) : CPanel(parent), grid(new QGridLayout(this))
+CPhotoFactsPage::CPhotoFactsPage(QWidget* parent)
+    : CPanel(parent), grid(new QGridLayout(this)), tone(new CToneBar(this))
 {
     grid->setContentsMargins(4 * kGrid, 4 * kGrid, 4 * kGrid, 4 * kGrid);
     grid->setHorizontalSpacing(3 * kGrid);
@@ -110,8 +112,12 @@ CPhotoFactsPage::CPhotoFactsPage(QWidget* parent) : CPanel(parent), grid(new QGr
     AddLine(StringId::infoName, MakeLongValue(this));
     AddLine(StringId::infoFolder, MakeLongValue(this));
     using enum StringId;
-    for (const StringId name : {infoKind, infoPixels, infoSize, infoTaken, infoCreated, infoModified})
+    AddLine(infoKind, MakeValue(this));
+    for (const auto& [name, value] : LinesOf({}))
         AddLine(name, MakeValue(this));
+    for (const StringId name : {infoPixels, infoSize, infoTaken, infoCreated, infoModified})
+        AddLine(name, MakeValue(this));
+    grid->addWidget(tone, grid->rowCount(), 0, 1, 2);
     grid->setRowStretch(grid->rowCount(), 1);
 }
 
@@ -160,6 +166,9 @@ void CPhotoFactsPage::Begin(const std::vector<std::string>& paths)
 void CPhotoFactsPage::Show(const std::vector<std::string>& paths, const PhotoInfo& info)
 {
     Begin(paths);
+    tone->Show(paths.front(), info.tone, info.toneNeeds);
+    for (const auto& [name, value] : LinesOf(info.tone))
+        Set(name, value);
     if (!info.found)
         return Set(StringId::infoKind, Text(StringId::propertiesGone));
     Set(StringId::infoKind, KindText(paths.front(), info));

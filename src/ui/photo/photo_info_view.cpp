@@ -51,7 +51,8 @@ PhotoQuestion AskAboutSelection(const CIEShellListCtrl& list)
     for (const int row : list.SelectedRows()) {
         const browser::MediaItem& item = list.List().Item(row);
         question.paths.push_back(list.List().PathOf(row));
-        question.isMedia = question.isMedia && !item.isFolder && item.types != 0;
+        const bool isMedia = item.types != 0 || app::ToneKindOf(item.name) != app::ToneKind::none;
+        question.isMedia = question.isMedia && !item.isFolder && isMedia;
         if (!item.isFolder && (item.types & browser::kTypesWithThumbnail) != 0)
             question.carriers.push_back(question.paths.back());
     }
@@ -99,6 +100,7 @@ void CPhotoInfoView::Show(PhotoQuestion question)
     about = std::move(question);
     about.storeFolder = actions.Stores().thumbnails;
     setCurrentIndex(about.paths.empty() ? 0 : 1);
+    facts->Tone()->Leave();
     if (!about.paths.empty())
         facts->Begin(about.paths);
     awaiting = true;

@@ -6,6 +6,7 @@
 #include "browser/file_names.h"
 #include "browser/media_types.h"
 #include "photo/exif_summary.h"
+#include "ui/tone/tone_player.h"
 
 #include <algorithm>
 #include <span>
@@ -71,6 +72,10 @@ PhotoInfo ReadPhotoInfo(const PhotoQuestion& question, const std::atomic<bool>& 
     // A summary of a clip would open one of its frames.
     if (all.size() == 1 && info.file.facts.isRegular && IsPicture(all.front()))
         info.exifText = photo::BuildExifSummary(all.front());
+    if (all.size() == 1 && info.file.facts.isRegular) {
+        info.tone = app::ReadToneFacts(all.front());
+        info.toneNeeds = CTonePlayer::Missing(info.tone.plays);
+    }
     if (question.carriers.empty() || isStale)
         return info;
     browser::CThumbDbMgr manager(question.storeFolder);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "app/selection_reader.h"
+#include "app/tone_facts.h"
 #include "photo/caption_store.h"
 
 #include <atomic>
@@ -23,6 +24,8 @@ struct PhotoInfo {
     bool found = false;                              // whether the one file, or any of several, is there
     app::FileDescription file;                       // of one file
     std::string exifText;                            // of one picture; empty for none
+    app::ToneFacts tone;                             // of one ring tone or recording
+    platform::StringId toneNeeds = {};               // what is to be installed to play it, if anything
     std::vector<photo::PhotoTexts> texts;            // of each file that carries texts, in their order
     std::size_t looked = 0;                          // at so many files, for the values below
     std::uint64_t bytes = 0;                         // of all of them
