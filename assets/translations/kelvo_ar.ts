@@ -1791,6 +1791,520 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <source>1 byte</source>
    <translation type="unfinished">بايت واحد</translation>
   </message>
+  <message id="toneDuration">
+   <source>Duration:</source>
+   <translation type="unfinished">المدة:</translation>
+  </message>
+  <message id="toneForm">
+   <source>Sound:</source>
+   <translation type="unfinished">الصوت:</translation>
+  </message>
+  <message id="toneNotes">
+   <source>Notes:</source>
+   <translation type="unfinished">النغمات:</translation>
+  </message>
+  <message id="tonePolyphony">
+   <source>At once:</source>
+   <translation type="unfinished">معًا:</translation>
+  </message>
+  <message id="toneChannels">
+   <source>Channels:</source>
+   <translation type="unfinished">القنوات:</translation>
+  </message>
+  <message id="toneTitle">
+   <source>Title:</source>
+   <translation type="unfinished">العنوان:</translation>
+  </message>
+  <message id="toneWaves">
+   <source>Recordings:</source>
+   <translation type="unfinished">التسجيلات:</translation>
+  </message>
+  <message id="toneHandset">
+   <source>Handset:</source>
+   <translation type="unfinished">الهاتف:</translation>
+  </message>
+  <message id="toneWaveForm">
+   <source>%1 bits, %2, %3 Hz</source>
+   <translation type="unfinished">%1 بت، %2، %3 هرتز</translation>
+  </message>
+  <message id="toneMono">
+   <source>mono</source>
+   <translation type="unfinished">أحادي</translation>
+  </message>
+  <message id="toneStereo">
+   <source>stereo</source>
+   <translation type="unfinished">ستيريو</translation>
+  </message>
+  <message id="toneMoreChannels" numerus="yes">
+   <source>%1 channels</source>
+   <translation type="unfinished">
+    <numerusform>%1 قناة</numerusform>
+    <numerusform>%1 قناة</numerusform>
+    <numerusform>%1 قناتان</numerusform>
+    <numerusform>%1 قنوات</numerusform>
+    <numerusform>%1 قناة</numerusform>
+    <numerusform>%1 قناة</numerusform>
+   </translation>
+  </message>
+  <message id="toneSuits">
+   <source>Can become a ring tone as it is</source>
+   <translation type="unfinished">يمكن أن يصير نغمة رنين كما هو</translation>
+  </message>
+  <message id="toneNotRead">
+   <source>The file cannot be read: %1</source>
+   <translation type="unfinished">لا يمكن قراءة الملف: %1</translation>
+  </message>
+  <message id="toneNotMidi">
+   <source>This is no MIDI file.</source>
+   <translation type="unfinished">هذا ليس ملف MIDI.</translation>
+  </message>
+  <message id="toneMidiCut">
+   <source>This MIDI file breaks off at its beginning.</source>
+   <translation type="unfinished">ملف MIDI هذا ينقطع في أوله.</translation>
+  </message>
+  <message id="toneMidiFormat">
+   <source>This is a MIDI file of a kind that is not known.</source>
+   <translation type="unfinished">هذا ملف MIDI من نوع غير معروف.</translation>
+  </message>
+  <message id="toneMidiDivision">
+   <source>This MIDI file does not say how fast it is.</source>
+   <translation type="unfinished">ملف MIDI هذا لا يذكر سرعته.</translation>
+  </message>
+  <message id="toneMidiDamaged">
+   <source>This MIDI file is damaged.</source>
+   <translation type="unfinished">ملف MIDI هذا تالف.</translation>
+  </message>
+  <message id="toneMidiNoTrack">
+   <source>This MIDI file holds no music.</source>
+   <translation type="unfinished">لا موسيقى في ملف MIDI هذا.</translation>
+  </message>
+  <message id="toneNotSmaf">
+   <source>This SMAF file is damaged, or of a kind that is not known (%1).</source>
+   <translation type="unfinished">ملف SMAF هذا تالف أو من نوع غير معروف (%1).</translation>
+  </message>
+  <message id="toneNotWav">
+   <source>This WAV file is damaged, or of a kind that is not known (%1).</source>
+   <translation type="unfinished">ملف WAV هذا تالف أو من نوع غير معروف (%1).</translation>
+  </message>
+  <message id="tonePlay">
+   <source>Play</source>
+   <translation type="unfinished">تشغيل</translation>
+  </message>
+  <message id="toneStop">
+   <source>Stop</source>
+   <translation type="unfinished">إيقاف</translation>
+  </message>
+  <message id="tonePlayTip">
+   <source>Play this sound</source>
+   <translation type="unfinished">تشغيل هذا الصوت</translation>
+  </message>
+  <message id="toneStopTip">
+   <source>Stop playing</source>
+   <translation type="unfinished">إيقاف التشغيل</translation>
+  </message>
+  <message id="toneProgress">
+   <source>How far it has played</source>
+   <translation type="unfinished">ما شُغّل منه</translation>
+  </message>
+  <message id="toneTimes">
+   <source>%1 of %2</source>
+   <translation type="unfinished">%1 من %2</translation>
+  </message>
+  <message id="toneNeedsFluidSynth">
+   <source>To play ring tones, install the packages fluidsynth and fluid-soundfont-gm (or timgm6mb-soundfont).</source>
+   <translation type="unfinished">لتشغيل نغمات الرنين ثبّت الحزمتين fluidsynth و fluid-soundfont-gm (أو timgm6mb-soundfont).</translation>
+  </message>
+  <message id="toneNeedsSoundFont">
+   <source>To play ring tones, install a sound font: the package fluid-soundfont-gm or timgm6mb-soundfont.</source>
+   <translation type="unfinished">لتشغيل نغمات الرنين ثبّت مكتبة أصوات: الحزمة fluid-soundfont-gm أو timgm6mb-soundfont.</translation>
+  </message>
+  <message id="toneNeedsPlayer">
+   <source>To play recordings, install one of the packages pipewire-bin, pulseaudio-utils, alsa-utils and ffmpeg.</source>
+   <translation type="unfinished">لتشغيل التسجيلات ثبّت إحدى الحزم pipewire-bin و pulseaudio-utils و alsa-utils و ffmpeg.</translation>
+  </message>
+  <message id="toneNothingToPlay">
+   <source>This sound is of a kind that cannot be played here.</source>
+   <translation type="unfinished">لا يمكن تشغيل صوت من هذا النوع هنا.</translation>
+  </message>
+  <message id="toneNotPrepared">
+   <source>The sound could not be made ready for playing: %1</source>
+   <translation type="unfinished">تعذّر تجهيز الصوت للتشغيل: %1</translation>
+  </message>
+  <message id="tonePlayerFailed">
+   <source>%1 could not play it: %2</source>
+   <translation type="unfinished">تعذّر على %1 تشغيله: %2</translation>
+  </message>
+  <message id="tonePlayerSilent">
+   <source>%1 could not play it and did not say why.</source>
+   <translation type="unfinished">تعذّر على %1 تشغيله ولم يذكر السبب.</translation>
+  </message>
+  <message id="commandConvertTone">
+   <source>Convert for the Handset...</source>
+   <translation type="unfinished">تحويل للهاتف...</translation>
+  </message>
+  <message id="toneNothing">
+   <source>Select MIDI or WAV files to convert first.</source>
+   <translation type="unfinished">حدّد أولًا ملفات MIDI أو WAV المراد تحويلها.</translation>
+  </message>
+  <message id="toneConvertTitle">
+   <source>Convert for the Handset</source>
+   <translation type="unfinished">تحويل للهاتف</translation>
+  </message>
+  <message id="toneTable">
+   <source>Files to convert</source>
+   <translation type="unfinished">الملفات المراد تحويلها</translation>
+  </message>
+  <message id="toneFile">
+   <source>File</source>
+   <translation type="unfinished">الملف</translation>
+  </message>
+  <message id="toneBecomes">
+   <source>Becomes</source>
+   <translation type="unfinished">يصير</translation>
+  </message>
+  <message id="toneSize">
+   <source>Size</source>
+   <translation type="unfinished">الحجم</translation>
+  </message>
+  <message id="toneLength">
+   <source>Duration</source>
+   <translation type="unfinished">المدة</translation>
+  </message>
+  <message id="toneNote">
+   <source>Note</source>
+   <translation type="unfinished">ملاحظة</translation>
+  </message>
+  <message id="toneLooking">
+   <source>Looking at it…</source>
+   <translation type="unfinished">جارٍ فحصه…</translation>
+  </message>
+  <message id="toneSource">
+   <source>Source:</source>
+   <translation type="unfinished">المصدر:</translation>
+  </message>
+  <message id="toneTarget">
+   <source>New file:</source>
+   <translation type="unfinished">الملف الجديد:</translation>
+  </message>
+  <message id="toneTargetSize">
+   <source>Size:</source>
+   <translation type="unfinished">الحجم:</translation>
+  </message>
+  <message id="toneSizeOf">
+   <source>%1 of %2 bytes</source>
+   <translation type="unfinished">%1 من %2 بايت</translation>
+  </message>
+  <message id="toneLossesName">
+   <source>What is lost</source>
+   <translation type="unfinished">ما يُفقد</translation>
+  </message>
+  <message id="toneHalve">
+   <source>&amp;Halve recordings of 8,000 Hz to 4,000 Hz</source>
+   <translation type="unfinished">&amp;تنصيف تسجيلات 8000 هرتز إلى 4000 هرتز</translation>
+  </message>
+  <message id="toneHalveSizes">
+   <source>&amp;Halve to 4,000 Hz: %1 instead of %2</source>
+   <translation type="unfinished">&amp;تنصيف إلى 4000 هرتز: %1 بدلًا من %2</translation>
+  </message>
+  <message id="toneHalveTip">
+   <source>Half the size, and a duller sound</source>
+   <translation type="unfinished">نصف الحجم، وصوت أقل صفاءً</translation>
+  </message>
+  <message id="toneConvert" numerus="yes">
+   <source>Convert %1 Files</source>
+   <translation type="unfinished">
+    <numerusform>تحويل %1 ملف</numerusform>
+    <numerusform>تحويل %1 ملف</numerusform>
+    <numerusform>تحويل %1 ملفين</numerusform>
+    <numerusform>تحويل %1 ملفات</numerusform>
+    <numerusform>تحويل %1 ملفًا</numerusform>
+    <numerusform>تحويل %1 ملف</numerusform>
+   </translation>
+  </message>
+  <message id="toneConvertAnyway" numerus="yes">
+   <source>Convert %1 Files Anyway</source>
+   <translation type="unfinished">
+    <numerusform>تحويل %1 ملف مع ذلك</numerusform>
+    <numerusform>تحويل %1 ملف مع ذلك</numerusform>
+    <numerusform>تحويل %1 ملفين مع ذلك</numerusform>
+    <numerusform>تحويل %1 ملفات مع ذلك</numerusform>
+    <numerusform>تحويل %1 ملفًا مع ذلك</numerusform>
+    <numerusform>تحويل %1 ملف مع ذلك</numerusform>
+   </translation>
+  </message>
+  <message id="toneNoteGood">
+   <source>Nothing is lost</source>
+   <translation type="unfinished">لا يُفقد شيء</translation>
+  </message>
+  <message id="toneNoteLossy">
+   <source>Loses something</source>
+   <translation type="unfinished">يفقد شيئًا</translation>
+  </message>
+  <message id="toneNoteTooLong">
+   <source>Too large</source>
+   <translation type="unfinished">كبير جدًا</translation>
+  </message>
+  <message id="toneNoteRefused">
+   <source>Cannot be converted</source>
+   <translation type="unfinished">لا يمكن تحويله</translation>
+  </message>
+  <message id="tonePlanning" numerus="yes">
+   <source>Looking at %1 files…</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ فحص %1 ملف…</numerusform>
+    <numerusform>جارٍ فحص %1 ملف…</numerusform>
+    <numerusform>جارٍ فحص %1 ملفين…</numerusform>
+    <numerusform>جارٍ فحص %1 ملفات…</numerusform>
+    <numerusform>جارٍ فحص %1 ملفًا…</numerusform>
+    <numerusform>جارٍ فحص %1 ملف…</numerusform>
+   </translation>
+  </message>
+  <message id="toneNone">
+   <source>Nothing of this can be converted.</source>
+   <translation type="unfinished">لا يمكن تحويل شيء من هذا.</translation>
+  </message>
+  <message id="toneTooLong" numerus="yes">
+   <source>%1 of the new files are larger than the %2 bytes that the handset takes.</source>
+   <translation type="unfinished">
+    <numerusform>%1 ملف من الملفات الجديدة أكبر مما يقبله الهاتف، وهو %2 بايت.</numerusform>
+    <numerusform>%1 ملف من الملفات الجديدة أكبر مما يقبله الهاتف، وهو %2 بايت.</numerusform>
+    <numerusform>%1 ملفان من الملفات الجديدة أكبر مما يقبله الهاتف، وهو %2 بايت.</numerusform>
+    <numerusform>%1 ملفات من الملفات الجديدة أكبر مما يقبله الهاتف، وهو %2 بايت.</numerusform>
+    <numerusform>%1 ملفًا من الملفات الجديدة أكبر مما يقبله الهاتف، وهو %2 بايت.</numerusform>
+    <numerusform>%1 ملف من الملفات الجديدة أكبر مما يقبله الهاتف، وهو %2 بايت.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLossy">
+   <source>Something of the sources is lost.</source>
+   <translation type="unfinished">يُفقد شيء من المصادر.</translation>
+  </message>
+  <message id="toneGood">
+   <source>Nothing is lost.</source>
+   <translation type="unfinished">لا يُفقد شيء.</translation>
+  </message>
+  <message id="toneLostDropped" numerus="yes">
+   <source>%1 notes are left out, because more than %2 would sound at once.</source>
+   <translation type="unfinished">
+    <numerusform>تُحذف %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُحذف %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُحذف %1 نغمتين لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُحذف %1 نغمات لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُحذف %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُحذف %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostShortened" numerus="yes">
+   <source>%1 notes are shortened, because more than %2 would sound at once.</source>
+   <translation type="unfinished">
+    <numerusform>تُقصَّر %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُقصَّر %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُقصَّر %1 نغمتين لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُقصَّر %1 نغمات لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُقصَّر %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+    <numerusform>تُقصَّر %1 نغمة لأن أكثر من %2 ستُسمع معًا.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostUnended" numerus="yes">
+   <source>%1 notes have no end and last to the end of the tune.</source>
+   <translation type="unfinished">
+    <numerusform>%1 نغمة بلا نهاية، فتدوم إلى آخر اللحن.</numerusform>
+    <numerusform>%1 نغمة بلا نهاية، فتدوم إلى آخر اللحن.</numerusform>
+    <numerusform>%1 نغمتان بلا نهاية، فتدوم إلى آخر اللحن.</numerusform>
+    <numerusform>%1 نغمات بلا نهاية، فتدوم إلى آخر اللحن.</numerusform>
+    <numerusform>%1 نغمة بلا نهاية، فتدوم إلى آخر اللحن.</numerusform>
+    <numerusform>%1 نغمة بلا نهاية، فتدوم إلى آخر اللحن.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostTooLong" numerus="yes">
+   <source>%1 notes are cut to their greatest length.</source>
+   <translation type="unfinished">
+    <numerusform>تُقصَّر %1 نغمة إلى أطول مدة.</numerusform>
+    <numerusform>تُقصَّر %1 نغمة إلى أطول مدة.</numerusform>
+    <numerusform>تُقصَّر %1 نغمتين إلى أطول مدة.</numerusform>
+    <numerusform>تُقصَّر %1 نغمات إلى أطول مدة.</numerusform>
+    <numerusform>تُقصَّر %1 نغمة إلى أطول مدة.</numerusform>
+    <numerusform>تُقصَّر %1 نغمة إلى أطول مدة.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostPressure" numerus="yes">
+   <source>%1 changes of key pressure are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>يُتجاهل %1 تغيير في ضغط المفاتيح.</numerusform>
+    <numerusform>يُتجاهل %1 تغيير في ضغط المفاتيح.</numerusform>
+    <numerusform>يُتجاهل %1 تغييران في ضغط المفاتيح.</numerusform>
+    <numerusform>يُتجاهل %1 تغييرات في ضغط المفاتيح.</numerusform>
+    <numerusform>يُتجاهل %1 تغييرًا في ضغط المفاتيح.</numerusform>
+    <numerusform>يُتجاهل %1 تغيير في ضغط المفاتيح.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostBank" numerus="yes">
+   <source>%1 choices of special voices are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>يُتجاهل %1 اختيار لأصوات خاصة.</numerusform>
+    <numerusform>يُتجاهل %1 اختيار لأصوات خاصة.</numerusform>
+    <numerusform>يُتجاهل %1 اختياران لأصوات خاصة.</numerusform>
+    <numerusform>يُتجاهل %1 اختيارات لأصوات خاصة.</numerusform>
+    <numerusform>يُتجاهل %1 اختيارًا لأصوات خاصة.</numerusform>
+    <numerusform>يُتجاهل %1 اختيار لأصوات خاصة.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostKit" numerus="yes">
+   <source>%1 choices of a drum kit are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>يُتجاهل %1 اختيار لطقم طبول.</numerusform>
+    <numerusform>يُتجاهل %1 اختيار لطقم طبول.</numerusform>
+    <numerusform>يُتجاهل %1 اختياران لطقم طبول.</numerusform>
+    <numerusform>يُتجاهل %1 اختيارات لطقم طبول.</numerusform>
+    <numerusform>يُتجاهل %1 اختيارًا لطقم طبول.</numerusform>
+    <numerusform>يُتجاهل %1 اختيار لطقم طبول.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostParameter" numerus="yes">
+   <source>%1 special settings of channels are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>يُتجاهل %1 ضبط خاص بالقنوات.</numerusform>
+    <numerusform>يُتجاهل %1 ضبط خاص بالقنوات.</numerusform>
+    <numerusform>يُتجاهل %1 ضبطان خاص بالقنوات.</numerusform>
+    <numerusform>يُتجاهل %1 ضبوط خاص بالقنوات.</numerusform>
+    <numerusform>يُتجاهل %1 ضبطًا خاص بالقنوات.</numerusform>
+    <numerusform>يُتجاهل %1 ضبط خاص بالقنوات.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostControl" numerus="yes">
+   <source>%1 controls that the handset does not know are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>يُتجاهل %1 متحكم لا يعرفها الهاتف.</numerusform>
+    <numerusform>يُتجاهل %1 متحكم لا يعرفها الهاتف.</numerusform>
+    <numerusform>يُتجاهل %1 متحكمان لا يعرفها الهاتف.</numerusform>
+    <numerusform>يُتجاهل %1 متحكمات لا يعرفها الهاتف.</numerusform>
+    <numerusform>يُتجاهل %1 متحكمًا لا يعرفها الهاتف.</numerusform>
+    <numerusform>يُتجاهل %1 متحكم لا يعرفها الهاتف.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostExclusive" numerus="yes">
+   <source>%1 messages for one make of instrument are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>تُتجاهل %1 رسالة لآلات صانع بعينه.</numerusform>
+    <numerusform>تُتجاهل %1 رسالة لآلات صانع بعينه.</numerusform>
+    <numerusform>تُتجاهل %1 رسالتان لآلات صانع بعينه.</numerusform>
+    <numerusform>تُتجاهل %1 رسائل لآلات صانع بعينه.</numerusform>
+    <numerusform>تُتجاهل %1 رسالة لآلات صانع بعينه.</numerusform>
+    <numerusform>تُتجاهل %1 رسالة لآلات صانع بعينه.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostTempo" numerus="yes">
+   <source>%1 changes of tempo make no sense and are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>يُتجاهل %1 تغيير للسرعة بلا معنى.</numerusform>
+    <numerusform>يُتجاهل %1 تغيير للسرعة بلا معنى.</numerusform>
+    <numerusform>يُتجاهل %1 تغييران للسرعة بلا معنى.</numerusform>
+    <numerusform>يُتجاهل %1 تغييرات للسرعة بلا معنى.</numerusform>
+    <numerusform>يُتجاهل %1 تغييرًا للسرعة بلا معنى.</numerusform>
+    <numerusform>يُتجاهل %1 تغيير للسرعة بلا معنى.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostAfterEnd" numerus="yes">
+   <source>%1 events after 24 hours are left out.</source>
+   <translation type="unfinished">
+    <numerusform>يُحذف %1 حدث بعد 24 ساعة.</numerusform>
+    <numerusform>يُحذف %1 حدث بعد 24 ساعة.</numerusform>
+    <numerusform>يُحذف %1 حدثان بعد 24 ساعة.</numerusform>
+    <numerusform>يُحذف %1 أحداث بعد 24 ساعة.</numerusform>
+    <numerusform>يُحذف %1 حدثًا بعد 24 ساعة.</numerusform>
+    <numerusform>يُحذف %1 حدث بعد 24 ساعة.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostTracks" numerus="yes">
+   <source>%1 tracks are damaged and break off.</source>
+   <translation type="unfinished">
+    <numerusform>%1 مسار تالفة تنقطع.</numerusform>
+    <numerusform>%1 مسار تالفة تنقطع.</numerusform>
+    <numerusform>%1 مساران تالفة تنقطع.</numerusform>
+    <numerusform>%1 مسارات تالفة تنقطع.</numerusform>
+    <numerusform>%1 مسارًا تالفة تنقطع.</numerusform>
+    <numerusform>%1 مسار تالفة تنقطع.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostSongs" numerus="yes">
+   <source>%1 further songs of the file are left out.</source>
+   <translation type="unfinished">
+    <numerusform>يُحذف %1 لحن آخر من الملف.</numerusform>
+    <numerusform>يُحذف %1 لحن آخر من الملف.</numerusform>
+    <numerusform>يُحذف %1 لحنان آخر من الملف.</numerusform>
+    <numerusform>يُحذف %1 ألحان آخر من الملف.</numerusform>
+    <numerusform>يُحذف %1 لحنًا آخر من الملف.</numerusform>
+    <numerusform>يُحذف %1 لحن آخر من الملف.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostRate">
+   <source>Every second sample is left out: the sound becomes duller.</source>
+   <translation type="unfinished">تُحذف عيّنة من كل عيّنتين، فيصير الصوت أقل صفاءً.</translation>
+  </message>
+  <message id="toneLostFine">
+   <source>The recording is stored with 4 bits a sample: it sounds somewhat rougher.</source>
+   <translation type="unfinished">يُحفظ التسجيل بأربع بتات لكل عيّنة، فيصير أخشن قليلًا.</translation>
+  </message>
+  <message id="toneNotesUnused">
+   <source>The notes were not adapted to the handset first: %1</source>
+   <translation type="unfinished">لم تُكيَّف النغمات للهاتف أولًا: %1</translation>
+  </message>
+  <message id="toneNotesFailed">
+   <source>The notes could not be adapted to the handset first.</source>
+   <translation type="unfinished">تعذّر تكييف النغمات للهاتف أولًا.</translation>
+  </message>
+  <message id="toneMustBe">
+   <source>A recording must have 16 bits, one channel, and 4,000 or 8,000 Hz. This one has %1.</source>
+   <translation type="unfinished">يجب أن يكون التسجيل من 16 بت وقناة واحدة و 4000 أو 8000 هرتز. وهذا: %1.</translation>
+  </message>
+  <message id="toneEmpty">
+   <source>There is no sound in it.</source>
+   <translation type="unfinished">لا صوت فيه.</translation>
+  </message>
+  <message id="toneTooLongTrack">
+   <source>The recording is too long for a ring tone.</source>
+   <translation type="unfinished">التسجيل أطول مما تسعه نغمة رنين.</translation>
+  </message>
+  <message id="toneNotConverted">
+   <source>%1</source>
+   <translation type="unfinished">%1</translation>
+  </message>
+  <message id="toneMaking" numerus="yes">
+   <source>Converting %1 files for the handset</source>
+   <translation type="unfinished">
+    <numerusform>جارٍ تحويل %1 ملف للهاتف</numerusform>
+    <numerusform>جارٍ تحويل %1 ملف للهاتف</numerusform>
+    <numerusform>جارٍ تحويل %1 ملفين للهاتف</numerusform>
+    <numerusform>جارٍ تحويل %1 ملفات للهاتف</numerusform>
+    <numerusform>جارٍ تحويل %1 ملفًا للهاتف</numerusform>
+    <numerusform>جارٍ تحويل %1 ملف للهاتف</numerusform>
+   </translation>
+  </message>
+  <message id="toneNotMade" numerus="yes">
+   <source>%1 files could not be converted</source>
+   <translation type="unfinished">
+    <numerusform>تعذّر تحويل %1 ملف</numerusform>
+    <numerusform>تعذّر تحويل %1 ملف</numerusform>
+    <numerusform>تعذّر تحويل %1 ملفين</numerusform>
+    <numerusform>تعذّر تحويل %1 ملفات</numerusform>
+    <numerusform>تعذّر تحويل %1 ملفًا</numerusform>
+    <numerusform>تعذّر تحويل %1 ملف</numerusform>
+   </translation>
+  </message>
+  <message id="toneUndo" numerus="yes">
+   <source>Undo Conversion of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>تراجع عن تحويل %1 عنصر</numerusform>
+    <numerusform>تراجع عن تحويل %1 عنصر</numerusform>
+    <numerusform>تراجع عن تحويل %1 عنصرين</numerusform>
+    <numerusform>تراجع عن تحويل %1 عناصر</numerusform>
+    <numerusform>تراجع عن تحويل %1 عنصرًا</numerusform>
+    <numerusform>تراجع عن تحويل %1 عنصر</numerusform>
+   </translation>
+  </message>
+  <message id="toneUndoName">
+   <source>Undo Conversion of “%1”</source>
+   <translation type="unfinished">تراجع عن تحويل «%1»</translation>
+  </message>
   <message id="viewerBack">
    <source>Back to the thumbnails</source>
    <translation type="unfinished">العودة إلى الصور المصغرة</translation>

@@ -1623,6 +1623,432 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <source>1 byte</source>
    <translation type="unfinished">1 Byte</translation>
   </message>
+  <message id="toneDuration">
+   <source>Duration:</source>
+   <translation type="unfinished">Dauer:</translation>
+  </message>
+  <message id="toneForm">
+   <source>Sound:</source>
+   <translation type="unfinished">Klang:</translation>
+  </message>
+  <message id="toneNotes">
+   <source>Notes:</source>
+   <translation type="unfinished">Noten:</translation>
+  </message>
+  <message id="tonePolyphony">
+   <source>At once:</source>
+   <translation type="unfinished">Zugleich:</translation>
+  </message>
+  <message id="toneChannels">
+   <source>Channels:</source>
+   <translation type="unfinished">Kanäle:</translation>
+  </message>
+  <message id="toneTitle">
+   <source>Title:</source>
+   <translation type="unfinished">Titel:</translation>
+  </message>
+  <message id="toneWaves">
+   <source>Recordings:</source>
+   <translation type="unfinished">Aufnahmen:</translation>
+  </message>
+  <message id="toneHandset">
+   <source>Handset:</source>
+   <translation type="unfinished">Handy:</translation>
+  </message>
+  <message id="toneWaveForm">
+   <source>%1 bits, %2, %3 Hz</source>
+   <translation type="unfinished">%1 Bit, %2, %3 Hz</translation>
+  </message>
+  <message id="toneMono">
+   <source>mono</source>
+   <translation type="unfinished">mono</translation>
+  </message>
+  <message id="toneStereo">
+   <source>stereo</source>
+   <translation type="unfinished">stereo</translation>
+  </message>
+  <message id="toneMoreChannels" numerus="yes">
+   <source>%1 channels</source>
+   <translation type="unfinished">
+    <numerusform>%1 Kanal</numerusform>
+    <numerusform>%1 Kanäle</numerusform>
+   </translation>
+  </message>
+  <message id="toneSuits">
+   <source>Can become a ring tone as it is</source>
+   <translation type="unfinished">Kann so, wie sie ist, ein Klingelton werden</translation>
+  </message>
+  <message id="toneNotRead">
+   <source>The file cannot be read: %1</source>
+   <translation type="unfinished">Die Datei lässt sich nicht lesen: %1</translation>
+  </message>
+  <message id="toneNotMidi">
+   <source>This is no MIDI file.</source>
+   <translation type="unfinished">Das ist keine MIDI-Datei.</translation>
+  </message>
+  <message id="toneMidiCut">
+   <source>This MIDI file breaks off at its beginning.</source>
+   <translation type="unfinished">Diese MIDI-Datei bricht an ihrem Anfang ab.</translation>
+  </message>
+  <message id="toneMidiFormat">
+   <source>This is a MIDI file of a kind that is not known.</source>
+   <translation type="unfinished">Das ist eine MIDI-Datei von unbekannter Art.</translation>
+  </message>
+  <message id="toneMidiDivision">
+   <source>This MIDI file does not say how fast it is.</source>
+   <translation type="unfinished">Diese MIDI-Datei sagt nicht, wie schnell sie ist.</translation>
+  </message>
+  <message id="toneMidiDamaged">
+   <source>This MIDI file is damaged.</source>
+   <translation type="unfinished">Diese MIDI-Datei ist beschädigt.</translation>
+  </message>
+  <message id="toneMidiNoTrack">
+   <source>This MIDI file holds no music.</source>
+   <translation type="unfinished">Diese MIDI-Datei enthält keine Musik.</translation>
+  </message>
+  <message id="toneNotSmaf">
+   <source>This SMAF file is damaged, or of a kind that is not known (%1).</source>
+   <translation type="unfinished">Diese SMAF-Datei ist beschädigt oder von unbekannter Art (%1).</translation>
+  </message>
+  <message id="toneNotWav">
+   <source>This WAV file is damaged, or of a kind that is not known (%1).</source>
+   <translation type="unfinished">Diese WAV-Datei ist beschädigt oder von unbekannter Art (%1).</translation>
+  </message>
+  <message id="tonePlay">
+   <source>Play</source>
+   <translation type="unfinished">Abspielen</translation>
+  </message>
+  <message id="toneStop">
+   <source>Stop</source>
+   <translation type="unfinished">Anhalten</translation>
+  </message>
+  <message id="tonePlayTip">
+   <source>Play this sound</source>
+   <translation type="unfinished">Diesen Klang abspielen</translation>
+  </message>
+  <message id="toneStopTip">
+   <source>Stop playing</source>
+   <translation type="unfinished">Nicht weiter abspielen</translation>
+  </message>
+  <message id="toneProgress">
+   <source>How far it has played</source>
+   <translation type="unfinished">Wie weit abgespielt ist</translation>
+  </message>
+  <message id="toneTimes">
+   <source>%1 of %2</source>
+   <translation type="unfinished">%1 von %2</translation>
+  </message>
+  <message id="toneNeedsFluidSynth">
+   <source>To play ring tones, install the packages fluidsynth and fluid-soundfont-gm (or timgm6mb-soundfont).</source>
+   <translation type="unfinished">Um Klingeltöne abzuspielen, installieren Sie die Pakete fluidsynth und fluid-soundfont-gm (oder timgm6mb-soundfont).</translation>
+  </message>
+  <message id="toneNeedsSoundFont">
+   <source>To play ring tones, install a sound font: the package fluid-soundfont-gm or timgm6mb-soundfont.</source>
+   <translation type="unfinished">Um Klingeltöne abzuspielen, installieren Sie einen Klangsatz: das Paket fluid-soundfont-gm oder timgm6mb-soundfont.</translation>
+  </message>
+  <message id="toneNeedsPlayer">
+   <source>To play recordings, install one of the packages pipewire-bin, pulseaudio-utils, alsa-utils and ffmpeg.</source>
+   <translation type="unfinished">Um Aufnahmen abzuspielen, installieren Sie eines der Pakete pipewire-bin, pulseaudio-utils, alsa-utils und ffmpeg.</translation>
+  </message>
+  <message id="toneNothingToPlay">
+   <source>This sound is of a kind that cannot be played here.</source>
+   <translation type="unfinished">Ein Klang dieser Art lässt sich hier nicht abspielen.</translation>
+  </message>
+  <message id="toneNotPrepared">
+   <source>The sound could not be made ready for playing: %1</source>
+   <translation type="unfinished">Der Klang ließ sich nicht zum Abspielen vorbereiten: %1</translation>
+  </message>
+  <message id="tonePlayerFailed">
+   <source>%1 could not play it: %2</source>
+   <translation type="unfinished">%1 konnte ihn nicht abspielen: %2</translation>
+  </message>
+  <message id="tonePlayerSilent">
+   <source>%1 could not play it and did not say why.</source>
+   <translation type="unfinished">%1 konnte ihn nicht abspielen und nannte keinen Grund.</translation>
+  </message>
+  <message id="commandConvertTone">
+   <source>Convert for the Handset...</source>
+   <translation type="unfinished">Für das Handy umwandeln...</translation>
+  </message>
+  <message id="toneNothing">
+   <source>Select MIDI or WAV files to convert first.</source>
+   <translation type="unfinished">Wählen Sie zuerst die MIDI- oder WAV-Dateien aus, die umgewandelt werden sollen.</translation>
+  </message>
+  <message id="toneConvertTitle">
+   <source>Convert for the Handset</source>
+   <translation type="unfinished">Für das Handy umwandeln</translation>
+  </message>
+  <message id="toneTable">
+   <source>Files to convert</source>
+   <translation type="unfinished">Umzuwandelnde Dateien</translation>
+  </message>
+  <message id="toneFile">
+   <source>File</source>
+   <translation type="unfinished">Datei</translation>
+  </message>
+  <message id="toneBecomes">
+   <source>Becomes</source>
+   <translation type="unfinished">Wird zu</translation>
+  </message>
+  <message id="toneSize">
+   <source>Size</source>
+   <translation type="unfinished">Größe</translation>
+  </message>
+  <message id="toneLength">
+   <source>Duration</source>
+   <translation type="unfinished">Dauer</translation>
+  </message>
+  <message id="toneNote">
+   <source>Note</source>
+   <translation type="unfinished">Hinweis</translation>
+  </message>
+  <message id="toneLooking">
+   <source>Looking at it…</source>
+   <translation type="unfinished">Wird angesehen…</translation>
+  </message>
+  <message id="toneSource">
+   <source>Source:</source>
+   <translation type="unfinished">Quelle:</translation>
+  </message>
+  <message id="toneTarget">
+   <source>New file:</source>
+   <translation type="unfinished">Neue Datei:</translation>
+  </message>
+  <message id="toneTargetSize">
+   <source>Size:</source>
+   <translation type="unfinished">Größe:</translation>
+  </message>
+  <message id="toneSizeOf">
+   <source>%1 of %2 bytes</source>
+   <translation type="unfinished">%1 von %2 Bytes</translation>
+  </message>
+  <message id="toneLossesName">
+   <source>What is lost</source>
+   <translation type="unfinished">Was verloren geht</translation>
+  </message>
+  <message id="toneHalve">
+   <source>&amp;Halve recordings of 8,000 Hz to 4,000 Hz</source>
+   <translation type="unfinished">Aufnahmen von 8.000 Hz auf 4.000 Hz &amp;halbieren</translation>
+  </message>
+  <message id="toneHalveSizes">
+   <source>&amp;Halve to 4,000 Hz: %1 instead of %2</source>
+   <translation type="unfinished">Auf 4.000 Hz &amp;halbieren: %1 statt %2</translation>
+  </message>
+  <message id="toneHalveTip">
+   <source>Half the size, and a duller sound</source>
+   <translation type="unfinished">Halb so groß, und dumpfer</translation>
+  </message>
+  <message id="toneConvert" numerus="yes">
+   <source>Convert %1 Files</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei umwandeln</numerusform>
+    <numerusform>%1 Dateien umwandeln</numerusform>
+   </translation>
+  </message>
+  <message id="toneConvertAnyway" numerus="yes">
+   <source>Convert %1 Files Anyway</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei trotzdem umwandeln</numerusform>
+    <numerusform>%1 Dateien trotzdem umwandeln</numerusform>
+   </translation>
+  </message>
+  <message id="toneNoteGood">
+   <source>Nothing is lost</source>
+   <translation type="unfinished">Nichts geht verloren</translation>
+  </message>
+  <message id="toneNoteLossy">
+   <source>Loses something</source>
+   <translation type="unfinished">Verliert etwas</translation>
+  </message>
+  <message id="toneNoteTooLong">
+   <source>Too large</source>
+   <translation type="unfinished">Zu groß</translation>
+  </message>
+  <message id="toneNoteRefused">
+   <source>Cannot be converted</source>
+   <translation type="unfinished">Lässt sich nicht umwandeln</translation>
+  </message>
+  <message id="tonePlanning" numerus="yes">
+   <source>Looking at %1 files…</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei wird angesehen…</numerusform>
+    <numerusform>%1 Dateien werden angesehen…</numerusform>
+   </translation>
+  </message>
+  <message id="toneNone">
+   <source>Nothing of this can be converted.</source>
+   <translation type="unfinished">Nichts davon lässt sich umwandeln.</translation>
+  </message>
+  <message id="toneTooLong" numerus="yes">
+   <source>%1 of the new files are larger than the %2 bytes that the handset takes.</source>
+   <translation type="unfinished">
+    <numerusform>%1 neue Datei ist größer als die %2 Bytes, die das Handy nimmt.</numerusform>
+    <numerusform>%1 der neuen Dateien sind größer als die %2 Bytes, die das Handy nimmt.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLossy">
+   <source>Something of the sources is lost.</source>
+   <translation type="unfinished">Etwas von den Quellen geht verloren.</translation>
+  </message>
+  <message id="toneGood">
+   <source>Nothing is lost.</source>
+   <translation type="unfinished">Nichts geht verloren.</translation>
+  </message>
+  <message id="toneLostDropped" numerus="yes">
+   <source>%1 notes are left out, because more than %2 would sound at once.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Note fällt weg, weil sonst mehr als %2 zugleich erklängen.</numerusform>
+    <numerusform>%1 Noten fallen weg, weil sonst mehr als %2 zugleich erklängen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostShortened" numerus="yes">
+   <source>%1 notes are shortened, because more than %2 would sound at once.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Note wird gekürzt, weil sonst mehr als %2 zugleich erklängen.</numerusform>
+    <numerusform>%1 Noten werden gekürzt, weil sonst mehr als %2 zugleich erklängen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostUnended" numerus="yes">
+   <source>%1 notes have no end and last to the end of the tune.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Note hat kein Ende und dauert bis zum Ende des Stücks.</numerusform>
+    <numerusform>%1 Noten haben kein Ende und dauern bis zum Ende des Stücks.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostTooLong" numerus="yes">
+   <source>%1 notes are cut to their greatest length.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Note wird auf die größte Länge gekürzt.</numerusform>
+    <numerusform>%1 Noten werden auf die größte Länge gekürzt.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostPressure" numerus="yes">
+   <source>%1 changes of key pressure are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Änderung des Tastendrucks wird übergangen.</numerusform>
+    <numerusform>%1 Änderungen des Tastendrucks werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostBank" numerus="yes">
+   <source>%1 choices of special voices are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Wahl einer besonderen Stimme wird übergangen.</numerusform>
+    <numerusform>%1 Wahlen besonderer Stimmen werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostKit" numerus="yes">
+   <source>%1 choices of a drum kit are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Wahl eines Schlagzeugs wird übergangen.</numerusform>
+    <numerusform>%1 Wahlen eines Schlagzeugs werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostParameter" numerus="yes">
+   <source>%1 special settings of channels are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 besondere Einstellung eines Kanals wird übergangen.</numerusform>
+    <numerusform>%1 besondere Einstellungen von Kanälen werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostControl" numerus="yes">
+   <source>%1 controls that the handset does not know are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Regler, den das Handy nicht kennt, wird übergangen.</numerusform>
+    <numerusform>%1 Regler, die das Handy nicht kennt, werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostExclusive" numerus="yes">
+   <source>%1 messages for one make of instrument are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Nachricht an Instrumente eines Herstellers wird übergangen.</numerusform>
+    <numerusform>%1 Nachrichten an Instrumente eines Herstellers werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostTempo" numerus="yes">
+   <source>%1 changes of tempo make no sense and are ignored.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Tempowechsel ohne Sinn wird übergangen.</numerusform>
+    <numerusform>%1 Tempowechsel ohne Sinn werden übergangen.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostAfterEnd" numerus="yes">
+   <source>%1 events after 24 hours are left out.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Ereignis nach 24 Stunden fällt weg.</numerusform>
+    <numerusform>%1 Ereignisse nach 24 Stunden fallen weg.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostTracks" numerus="yes">
+   <source>%1 tracks are damaged and break off.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Spur ist beschädigt und bricht ab.</numerusform>
+    <numerusform>%1 Spuren sind beschädigt und brechen ab.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostSongs" numerus="yes">
+   <source>%1 further songs of the file are left out.</source>
+   <translation type="unfinished">
+    <numerusform>%1 weiteres Stück der Datei fällt weg.</numerusform>
+    <numerusform>%1 weitere Stücke der Datei fallen weg.</numerusform>
+   </translation>
+  </message>
+  <message id="toneLostRate">
+   <source>Every second sample is left out: the sound becomes duller.</source>
+   <translation type="unfinished">Jeder zweite Abtastwert fällt weg: Es klingt dumpfer.</translation>
+  </message>
+  <message id="toneLostFine">
+   <source>The recording is stored with 4 bits a sample: it sounds somewhat rougher.</source>
+   <translation type="unfinished">Die Aufnahme wird mit 4 Bit je Abtastwert gespeichert: Sie klingt etwas rauer.</translation>
+  </message>
+  <message id="toneNotesUnused">
+   <source>The notes were not adapted to the handset first: %1</source>
+   <translation type="unfinished">Die Noten wurden nicht erst an das Handy angepasst: %1</translation>
+  </message>
+  <message id="toneNotesFailed">
+   <source>The notes could not be adapted to the handset first.</source>
+   <translation type="unfinished">Die Noten ließen sich nicht erst an das Handy anpassen.</translation>
+  </message>
+  <message id="toneMustBe">
+   <source>A recording must have 16 bits, one channel, and 4,000 or 8,000 Hz. This one has %1.</source>
+   <translation type="unfinished">Eine Aufnahme muss 16 Bit, einen Kanal und 4.000 oder 8.000 Hz haben. Diese hat %1.</translation>
+  </message>
+  <message id="toneEmpty">
+   <source>There is no sound in it.</source>
+   <translation type="unfinished">Es ist kein Klang darin.</translation>
+  </message>
+  <message id="toneTooLongTrack">
+   <source>The recording is too long for a ring tone.</source>
+   <translation type="unfinished">Die Aufnahme ist zu lang für einen Klingelton.</translation>
+  </message>
+  <message id="toneNotConverted">
+   <source>%1</source>
+   <translation type="unfinished">%1</translation>
+  </message>
+  <message id="toneMaking" numerus="yes">
+   <source>Converting %1 files for the handset</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei wird für das Handy umgewandelt</numerusform>
+    <numerusform>%1 Dateien werden für das Handy umgewandelt</numerusform>
+   </translation>
+  </message>
+  <message id="toneNotMade" numerus="yes">
+   <source>%1 files could not be converted</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei ließ sich nicht umwandeln</numerusform>
+    <numerusform>%1 Dateien ließen sich nicht umwandeln</numerusform>
+   </translation>
+  </message>
+  <message id="toneUndo" numerus="yes">
+   <source>Undo Conversion of %1 Items</source>
+   <translation type="unfinished">
+    <numerusform>Umwandeln von %1 Element rückgängig machen</numerusform>
+    <numerusform>Umwandeln von %1 Elementen rückgängig machen</numerusform>
+   </translation>
+  </message>
+  <message id="toneUndoName">
+   <source>Undo Conversion of “%1”</source>
+   <translation type="unfinished">Umwandeln von „%1“ rückgängig machen</translation>
+  </message>
   <message id="viewerBack">
    <source>Back to the thumbnails</source>
    <translation type="unfinished">Zurück zu den Vorschaubildern</translation>

@@ -84,16 +84,15 @@ std::size_t CToneConversion::Convertible() const
 
 ToneCount CToneConversion::Summary() const
 {
-    const std::size_t count = Convertible();
     if (NextToPlan())
         return {StringId::tonePlanning, sources.size()};
-    if (count == 0)
-        return {StringId::toneNone, sources.size()};
+    if (Convertible() == 0)
+        return {StringId::toneNone};
     if (const std::size_t tooLong = CountOf(RowState::tooLong); tooLong > 0)
         return {StringId::toneTooLong, tooLong, sound::kLongestRingTone};
     if (CountOf(RowState::lossy) > 0)
-        return {StringId::toneLossy, count};
-    return {StringId::toneGood, count};
+        return {StringId::toneLossy};
+    return {StringId::toneGood};
 }
 
 StringId CToneConversion::ButtonText() const

@@ -17,7 +17,7 @@
 namespace app
 {
 
-// A text that counts. %1 is the number, %2 `other`.
+// A text and, where the number is not 0, what it counts: %1 is the number, %2 `other`.
 struct ToneCount {
     platform::StringId text = platform::StringId::none;
     std::uint64_t number = 0;
@@ -25,8 +25,8 @@ struct ToneCount {
     bool operator==(const ToneCount&) const = default;
 };
 
-// Something that the new file has no more: a text that counts where `words` is empty, a text whose %1 are
-// these words where it is not, and without a text the words of the converter, in English.
+// Something that the new file has no more. Where there are `words`, which are the converter's and in English,
+// they are the text's %1, or stand for a text.
 struct ToneLoss {
     ToneCount count;
     std::string words;

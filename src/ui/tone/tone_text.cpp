@@ -84,17 +84,18 @@ QString ProblemText(const app::ToneProblem& problem, const app::ToneFacts& facts
 
 QString CountText(const app::ToneCount& count)
 {
+    if (count.number == 0)
+        return Text(count.text);
     const QString text = Counted(count.text, static_cast<qint64>(count.number));
-    return count.other == 0 || !text.contains(QStringLiteral("%2")) ? text : text.arg(Number(count.other));
+    return text.contains(QStringLiteral("%2")) ? text.arg(Number(count.other)) : text;
 }
 
 QString LossText(const app::ToneLoss& loss)
 {
-    if (loss.count.text == StringId::none)
-        return Shown(loss.words);
-    if (!loss.words.empty())
-        return Text(loss.count.text, Shown(loss.words));
-    return loss.count.number == 0 ? Text(loss.count.text) : CountText(loss.count);
+    if (loss.words.empty())
+        return CountText(loss.count);
+    const QString words = Shown(loss.words);
+    return loss.count.text == StringId::none ? words : Text(loss.count.text, words);
 }
 
 ToneLines LinesOf(const app::ToneFacts& facts)
