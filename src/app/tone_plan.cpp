@@ -153,32 +153,28 @@ ToneProblem FirstProblem(const ToneFacts& facts)
     return {};
 }
 
-// The reason is that of the latest failure.
-FileFailure WriteNew(const std::string& path, const std::string& bytes)
+// What is left undone, or nothing. A copy is there whole or not at all, and takes no name that is taken.
+std::optional<platform::FileProblem> WriteNew(const std::string& path, const std::string& bytes)
 {
-    const std::string hidden =
-        browser::JoinPath(browser::FolderOf(path), "." + std::string(browser::FileName(path)) + ".new");
-    if (Os().files->FindPresence(path) == platform::Presence::present)
-        return FileFailure::nameTaken;
-    if (!Os().files->ReplaceFile(hidden, std::as_bytes(std::span(bytes))))
-        return FileFailure::other;
-    if (Os().files->MoveFileNoReplace(hidden, path))
-        return FileFailure::none;
-    const bool isTaken = Os().files->FindPresence(path) == platform::Presence::present;
-    Os().files->DeleteFile(hidden);
-    return isTaken ? FileFailure::nameTaken : FileFailure::other;
+    const std::string draft = browser::JoinPath(Os().files->GetTempPath(), "draft.mmf");
+    if (!Os().files->ReplaceFile(draft, std::as_bytes(std::span(bytes))))
+        return platform::FileProblem{path, FileFailure::other, Os().files->LastError()};
+    const auto copy = Os().shell->DoFileStep({platform::FileOperation::copy, draft, path, {}});
+    Os().files->DeleteFile(draft);
+    if (copy.done)
+        return std::nullopt;
+    platform::FileProblem problem = copy.problems.empty() ? platform::FileProblem() : copy.problems.front();
+    problem.path = path;
+    return problem;
 }
 
-// What is left undone, or nothing.
+// The same for a conversion.
 std::optional<platform::FileProblem> Write(const ToneOrder& order)
 {
     const Made made = Make(order.source, order.isHalved);
     if (made.problem || OutcomeOf(made.bytes) != order.expected)
         return platform::FileProblem{order.source, FileFailure::changed, {}};
-    const FileFailure failure = WriteNew(order.target, made.bytes);
-    if (failure == FileFailure::none)
-        return std::nullopt;
-    return platform::FileProblem{order.target, failure, Os().files->LastError()};
+    return WriteNew(order.target, made.bytes);
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 // What it takes to play a sound: a file that a player program understands, and the programs that may do it.
 //
 // Notes are played by FluidSynth with a sound font of the system, recordings by the first program that can.
-// docs/decisions/0018-tones-in-the-window.md says why programs.
+// docs/decisions/0019-tones-in-the-window.md says why programs.
 #pragma once
 
 #include "app/tone_facts.h"

@@ -139,20 +139,30 @@ void CToneDialog::MakeTable()
     for (std::size_t row = 0; row < conversion.Count(); ++row) {
         auto* item = new QTreeWidgetItem(table);
         item->setText(fileColumn, NameOf(conversion.Source(row)));
-        item->setTextAlignment(sizeColumn, int(Qt::AlignRight | Qt::AlignVCenter));
-        item->setTextAlignment(lengthColumn, int(Qt::AlignRight | Qt::AlignVCenter));
+        item->setTextAlignment(sizeColumn, Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(lengthColumn, Qt::AlignRight | Qt::AlignVCenter);
     }
     table->setCurrentItem(table->topLevelItem(0));
     table->setVisible(conversion.Count() > 1);
     connect(table, &QTreeWidget::currentItemChanged, this, &CToneDialog::ShowCurrent);
 }
 
-void CToneDialog::AddLine(QGridLayout& grid, StringId name, QWidget* value)
+void CToneDialog::AddLine(QGridLayout& grid, StringId name, QLabel* value)
 {
     const int row = grid.rowCount();
-    grid.addWidget(new CStaticEx(Text(name), this), row, 0, Qt::AlignTop);
+    auto* label = new CStaticEx(Text(name), this);
+    grid.addWidget(label, row, 0, Qt::AlignTop);
     grid.addWidget(value, row, 1);
     value->setAccessibleName(Text(name));
+    names[value] = label;
+}
+
+// A line without a value is not shown.
+void CToneDialog::SetLine(QLabel* value, const QString& text)
+{
+    value->setText(text);
+    value->setVisible(!text.isEmpty());
+    names[value]->setVisible(!text.isEmpty());
 }
 
 void CToneDialog::Arrange(QDialogButtonBox* buttons)
@@ -236,17 +246,19 @@ void CToneDialog::ShowCurrent()
     const std::size_t row = CurrentRow();
     const app::TonePlan* plan = conversion.Plan(row);
     const app::ToneOutcome* outcome = conversion.Outcome(row);
-    source->setText(NameOf(conversion.Source(row)));
-    target->setText(outcome ? NameOf(plan->target) : QString());
-    size->setText(outcome ? BytesOfCap(outcome->size) : QString());
-    room->setEnabled(outcome != nullptr);
+    // With several files the list has the names.
+    const bool isOne = conversion.Count() == 1;
+    SetLine(source, isOne ? NameOf(conversion.Source(row)) : QString());
+    SetLine(target, isOne && outcome ? NameOf(plan->target) : QString());
+    SetLine(size, outcome ? BytesOfCap(outcome->size) : QString());
+    room->setVisible(outcome != nullptr);
     room->setValue(outcome ? static_cast<int>(std::min(outcome->size, sound::kLongestRingTone)) : 0);
     QStringList facts;
     for (const auto& [name, value] : outcome ? LinesOf(outcome->facts) : ToneLines()) {
         if (!value.isEmpty())
             facts.append(Text(name) + QLatin1Char(' ') + Shielded(value));
     }
-    content->setText(facts.join(QStringLiteral("   ")));
+    SetLine(content, facts.join(QStringLiteral("   ")));
     QStringList lines;
     if (plan && plan->problem)
         lines.append(ProblemText(plan->problem, plan->facts));

@@ -10,6 +10,8 @@
 
 #include <QDialog>
 
+#include <map>
+
 class QCheckBox;
 class QDialogButtonBox;
 class QGridLayout;
@@ -40,11 +42,12 @@ private:
     void MakeParts();
     void MakeTable();
     void Arrange(QDialogButtonBox* buttons);
-    void AddLine(QGridLayout& grid, platform::StringId name, QWidget* value);
+    void AddLine(QGridLayout& grid, platform::StringId name, QLabel* value);
     void PlanNext();
     void Update();
     void ShowRow(std::size_t row);
     void ShowCurrent();
+    void SetLine(QLabel* value, const QString& text);
     void ShowHalving();
     std::size_t CurrentRow() const;
 
@@ -57,6 +60,7 @@ private:
     QLabel* size;
     QProgressBar* room;
     QLabel* content;
+    std::map<QLabel*, QLabel*> names;  // beside each of these values
     QPlainTextEdit* losses;
     QCheckBox* halve;
     CButtonEx* ok = nullptr;
