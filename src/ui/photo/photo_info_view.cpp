@@ -13,6 +13,7 @@
 #include "ui/words.h"
 
 #include <QPlainTextEdit>
+#include <QScrollArea>
 #include <QTabWidget>
 
 #include <utility>
@@ -41,6 +42,19 @@ FileJobReport SetTexts(const std::string& storeFolder, const std::vector<std::st
     report.problemCount = stored.problems.size();
     report.problems = std::move(stored.problems);
     return report;
+}
+
+// A long page must not keep the window from being made smaller.
+QWidget* Scrolled(QWidget* page, QWidget* parent)
+{
+    auto* area = new QScrollArea(parent);
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
+    return area;
 }
 
 }  // namespace
@@ -78,7 +92,7 @@ CPhotoInfoView::CPhotoInfoView(CFileActions& jobs, QWidget* parent)
     exif->setAccessibleName(Text(StringId::infoExifText));
     // The lines are the same in every language.
     exif->setLayoutDirection(Qt::LeftToRight);
-    tabs->addTab(facts, Text(StringId::infoGeneral));
+    tabs->addTab(Scrolled(facts, tabs), Text(StringId::infoGeneral));
     tabs->addTab(captions, Text(StringId::captionPage));
     tabs->addTab(exif, Text(StringId::infoExif));
     tabs->setTabVisible(tabs->indexOf(exif), false);
