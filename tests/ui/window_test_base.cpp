@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window_test_base.h"
 
+#include "ui/controls/skin.h"
+
 namespace support
 {
 
@@ -51,6 +53,13 @@ WindowTest::WindowTest() : guard(With(shell, files)), folder(services.folder.Pat
     frame = std::make_unique<ui::CMainFrame>(application, dataFolders);
     frame->resize(1000, 700);
     frame->show();
+}
+
+// The skin is the process's and asks the services that end with this test.
+WindowTest::~WindowTest()
+{
+    frame.reset();
+    ui::UseSkin({});
 }
 
 std::string WindowTest::Add(const std::string& name, const std::string& bytes)

@@ -39,6 +39,7 @@ class WindowTest : public testing::Test
 {
 protected:
     WindowTest();
+    ~WindowTest() override;
 
     // The path of an empty file (or a picture) in the folder that the tests look at.
     std::string Add(const std::string& name, const std::string& bytes = "640x480");
