@@ -72,6 +72,12 @@ QString RangeText(const FileTimes& range, QString (*text)(platform::FileTime))
     return first == last ? first : Text(StringId::propertiesFromTo, first, last);
 }
 
+// At the side where the window's texts begin, whatever the value's own letters or digits are.
+Qt::Alignment OwnSide(const QWidget& value)
+{
+    return (value.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
+}
+
 // A value of one line, however long: it can be walked through, selected and copied.
 QLineEdit* MakeLongValue(QWidget* parent)
 {
@@ -82,8 +88,7 @@ QLineEdit* MakeLongValue(QWidget* parent)
     QPalette palette = line->palette();
     palette.setColor(QPalette::Base, Qt::transparent);
     line->setPalette(palette);
-    // A path stands at the same side as the other values, whatever its letters.
-    line->setAlignment((line->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
+    line->setAlignment(OwnSide(*line));
     return line;
 }
 
@@ -91,6 +96,7 @@ QLabel* MakeValue(QWidget* parent)
 {
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
+    label->setAlignment(OwnSide(*label) | Qt::AlignVCenter);
     // As far from its edge as the text of a field.
     label->setContentsMargins(2, 0, 2, 0);
     label->setMinimumHeight(QFontMetrics(label->font()).height() + 2);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/tone/tone_bar.h"
 
+#include "ui/controls/button_ex.h"
 #include "ui/icons.h"
 #include "ui/theme.h"
 #include "ui/tone/tone_text.h"
@@ -9,7 +10,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QProgressBar>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -25,8 +25,8 @@ constexpr int kSteps = 1000;
 }  // namespace
 
 CToneBar::CToneBar(QWidget* parent)
-    : QWidget(parent), button(new QPushButton(this)), progress(new QProgressBar(this)),
-      times(new QLabel(this)), message(new QLabel(this))
+    : QWidget(parent), button(new CButtonEx(this)), progress(new QProgressBar(this)), times(new QLabel(this)),
+      message(new QLabel(this))
 {
     button->setObjectName(QStringLiteral("play"));
     progress->setRange(0, kSteps);

@@ -18,6 +18,7 @@
 #include <QHeaderView>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QTextOption>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -61,12 +62,31 @@ bool IsWarning(RowState state)
     return state == RowState::tooLong || state == RowState::refused;
 }
 
+// Length, notes and so on, each with its name in one piece.
+QString ContentText(const app::ToneFacts& facts)
+{
+    QStringList parts;
+    for (const auto& [name, value] : LinesOf(facts)) {
+        QString part = Text(name) + QLatin1Char(' ') + Shielded(value);
+        if (!value.isEmpty() && name != StringId::toneTitle)
+            parts.append(part.replace(QLatin1Char(' '), QChar::Nbsp));
+    }
+    return parts.join(QStringLiteral("   "));
+}
+
+// Where texts begin in the window's direction, whatever their own letters.
+Qt::Alignment OwnSide(const QWidget& widget)
+{
+    return (widget.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
+}
+
 QLabel* MakeText(QWidget* parent, const char* name)
 {
     auto* label = new CStaticEx(parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    label->setAlignment(OwnSide(*label));
     return label;
 }
 
@@ -109,6 +129,7 @@ void CToneDialog::MakeParts()
     losses->setObjectName(QStringLiteral("losses"));
     losses->setReadOnly(true);
     losses->setTabChangesFocus(true);
+    losses->document()->setDefaultTextOption(QTextOption(OwnSide(*losses)));
     losses->setAccessibleName(Text(StringId::toneLossesName));
     halve->setObjectName(QStringLiteral("halve"));
     halve->setToolTip(Text(StringId::toneHalveTip));
@@ -253,12 +274,7 @@ void CToneDialog::ShowCurrent()
     SetLine(size, outcome ? BytesOfCap(outcome->size) : QString());
     room->setVisible(outcome != nullptr);
     room->setValue(outcome ? static_cast<int>(std::min(outcome->size, sound::kLongestRingTone)) : 0);
-    QStringList facts;
-    for (const auto& [name, value] : outcome ? LinesOf(outcome->facts) : ToneLines()) {
-        if (!value.isEmpty())
-            facts.append(Text(name) + QLatin1Char(' ') + Shielded(value));
-    }
-    SetLine(content, facts.join(QStringLiteral("   ")));
+    SetLine(content, outcome ? ContentText(outcome->facts) : QString());
     QStringList lines;
     if (plan && plan->problem)
         lines.append(ProblemText(plan->problem, plan->facts));

@@ -13,6 +13,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <csignal>
+#include <sys/prctl.h>
 #include <utility>
 
 namespace ui
@@ -113,6 +115,8 @@ void CTonePlayer::StartNext()
     for (const std::string& argument : command.arguments)
         arguments.append(QFile::decodeName(QByteArray::fromStdString(argument)));
     process = new QProcess(this);
+    // A player does not go on when this program is killed.
+    process->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     process->setStandardOutputFile(QProcess::nullDevice());
     connect(process, &QProcess::finished, this, [this, program](int code, QProcess::ExitStatus status) {
         OnEnded(program, status == QProcess::NormalExit && code == 0);
