@@ -1768,7 +1768,7 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
   </message>
   <message id="commandConvertTone">
    <source>Convert for the Handset...</source>
-   <translation type="unfinished">Für das Handy umwandeln...</translation>
+   <translation type="unfinished">Für das Handy umwandeln …</translation>
   </message>
   <message id="toneNothing">
    <source>Select MIDI or WAV files to convert first.</source>

@@ -32,7 +32,7 @@ CToneCommands::CToneCommands(CCommandRouter& router, CMainFrame& mainFrame) : fr
 void CToneCommands::AddTo(QMenu& menu)
 {
     // Its own action: the one in the menu bar is always there.
-    auto* convert = new QAction(Text(StringId::commandConvertTone), &menu);
+    auto* convert = new QAction(frame.Menu()->Action(app::CommandId::convertTone)->text(), &menu);
     menu.insertAction(frame.Menu()->Action(app::CommandId::slideShow), convert);
     QObject::connect(convert, &QAction::triggered, &frame, [this] { Convert(); });
     QObject::connect(&menu, &QMenu::aboutToShow, convert,
