@@ -25,6 +25,7 @@ class CPictureSources;
 class CScreen;
 class CScreenSaver;
 class CHandsetLink;
+class CMsdModule;
 
 struct Services {
     CFileSystem* files = nullptr;
@@ -44,6 +45,7 @@ struct Services {
     CScreen* screen = nullptr;
     CScreenSaver* screenSaver = nullptr;
     CHandsetLink* handset = nullptr;
+    CMsdModule* cameraStore = nullptr;
 };
 
 inline Services& Os()

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The photos and clips of a mounted store, and where such a store is.
+#pragma once
+
+#include "suite/camera/device_file.h"
+
+#include <cstdint>
+
+namespace suite
+{
+
+// A file of the store, and what tells it from one that has taken its place.
+struct StoredFile {
+    std::string path;
+    std::uint64_t size = 0;
+    std::int64_t modifiedSeconds = 0;  // inode numbers are not for FAT, where they come and go
+};
+
+struct StoreList {
+    std::vector<StoredFile> photos;
+    std::vector<StoredFile> clips;
+    std::vector<std::string> leftOut;  // what looked like one but cannot be read, and folders likewise
+
+    bool IsEmpty() const { return photos.empty() && clips.empty(); }
+};
+
+// What is in the store's photo folders, in the order of the folders' and files' names without regard to case,
+// and by the exact name where only the case differs. Photo folders stand in the root or one folder below it.
+// A root that the user has named and that has none is itself taken for one. Links, hidden files and folders
+// that are called like photos are none.
+StoreList ListStore(const std::string& root, const DeviceRules& rules);
+
+// The roots to try: the one that was named, else the mounted volumes with a photo folder: those with a label
+// that the rules name, then the removable ones.
+std::vector<std::string> FindStores(const DeviceRules& rules);
+
+// Whether the file is still the one that was listed.
+bool IsUnchanged(const StoredFile& file);
+
+}  // namespace suite
