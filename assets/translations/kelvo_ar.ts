@@ -3,6 +3,73 @@
 <TS version="2.1" language="ar" sourcelanguage="en">
  <context>
   <name></name>
+  <message id="cameraTitle">
+   <source>Copying From the Camera</source>
+   <translation type="unfinished">النسخ من الكاميرا</translation>
+  </message>
+  <message id="cameraLooking">
+   <source>Looking for the camera...</source>
+   <translation type="unfinished">جارٍ البحث عن الكاميرا...</translation>
+  </message>
+  <message id="cameraNotAvailable">
+   <source>Camera is not available. Please try again.</source>
+   <translation type="unfinished">الكاميرا غير متاحة. يرجى المحاولة مرة أخرى.</translation>
+  </message>
+  <message id="cameraNoPhoto">
+   <source>There no photo in the camera.
+Please check your camera.</source>
+   <translation type="unfinished">لا توجد صور في الكاميرا.
+يرجى التحقق من الكاميرا.</translation>
+  </message>
+  <message id="cameraCount">
+   <source>Copying photo %1 of %2</source>
+   <translation type="unfinished">نسخ الصورة %1 من %2</translation>
+  </message>
+  <message id="cameraDeleteAll">
+   <source>All the photos in camera will be deleted.
+Do you want to continue?</source>
+   <translation type="unfinished">ستُحذف جميع الصور الموجودة في الكاميرا.
+هل تريد المتابعة؟</translation>
+  </message>
+  <message id="cameraProgress">
+   <source>Photos copied</source>
+   <translation type="unfinished">الصور المنسوخة</translation>
+  </message>
+  <message id="cameraStop">
+   <source>&amp;Stop</source>
+   <translation type="unfinished">إي&amp;قاف</translation>
+  </message>
+  <message id="cameraStopping">
+   <source>Stopping...</source>
+   <translation type="unfinished">جارٍ الإيقاف...</translation>
+  </message>
+  <message id="cameraClose">
+   <source>&amp;Close</source>
+   <translation type="unfinished">إ&amp;غلاق</translation>
+  </message>
+  <message id="cameraStopped">
+   <source>Stopped. The photos copied so far are in %1.</source>
+   <translation type="unfinished">تم الإيقاف. الصور المنسوخة حتى الآن موجودة في %1.</translation>
+  </message>
+  <message id="cameraFailed">
+   <source>A photo could not be copied: %1. The photos copied so far are in %2.</source>
+   <translation type="unfinished">تعذر نسخ إحدى الصور: %1. الصور المنسوخة حتى الآن موجودة في %2.</translation>
+  </message>
+  <message id="cameraKept">
+   <source>Some photos could not be deleted from the camera.</source>
+   <translation type="unfinished">تعذر حذف بعض الصور من الكاميرا.</translation>
+  </message>
+  <message id="cameraCopied" numerus="yes">
+   <source>%1 photos were copied.</source>
+   <translation type="unfinished">
+    <numerusform>لم تُنسخ أي صورة.</numerusform>
+    <numerusform>نُسخت صورة واحدة.</numerusform>
+    <numerusform>نُسخت صورتان.</numerusform>
+    <numerusform>نُسخت %1 صور.</numerusform>
+    <numerusform>نُسخت %1 صورة.</numerusform>
+    <numerusform>نُسخت %1 صورة.</numerusform>
+   </translation>
+  </message>
   <message id="captionStoring" numerus="yes">
    <source>Writing the captions of %1 photos</source>
    <translation type="unfinished">
@@ -1091,10 +1158,6 @@
   <message id="missingHandset">
    <source>Exchange with the handset is not part of this version yet</source>
    <translation type="unfinished">التبادل مع الهاتف ليس جزءًا من هذا الإصدار بعد</translation>
-  </message>
-  <message id="missingCamera">
-   <source>Taking photos over from a camera is not part of this version yet</source>
-   <translation type="unfinished">نسخ الصور من الكاميرا ليس جزءًا من هذا الإصدار بعد</translation>
   </message>
   <message id="missingScanner">
    <source>Taking pictures from a scanner is not part of this version yet</source>

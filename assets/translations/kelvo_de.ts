@@ -3,6 +3,69 @@
 <TS version="2.1" language="de" sourcelanguage="en">
  <context>
   <name></name>
+  <message id="cameraTitle">
+   <source>Copying From the Camera</source>
+   <translation type="unfinished">Von der Kamera kopieren</translation>
+  </message>
+  <message id="cameraLooking">
+   <source>Looking for the camera...</source>
+   <translation type="unfinished">Die Kamera wird gesucht ...</translation>
+  </message>
+  <message id="cameraNotAvailable">
+   <source>Camera is not available. Please try again.</source>
+   <translation type="unfinished">Die Kamera ist nicht verfügbar. Bitte versuchen Sie es noch einmal.</translation>
+  </message>
+  <message id="cameraNoPhoto">
+   <source>There no photo in the camera.
+Please check your camera.</source>
+   <translation type="unfinished">In der Kamera ist kein Foto.
+Bitte prüfen Sie die Kamera.</translation>
+  </message>
+  <message id="cameraCount">
+   <source>Copying photo %1 of %2</source>
+   <translation type="unfinished">Foto %1 von %2 wird kopiert</translation>
+  </message>
+  <message id="cameraDeleteAll">
+   <source>All the photos in camera will be deleted.
+Do you want to continue?</source>
+   <translation type="unfinished">Alle Fotos in der Kamera werden gelöscht.
+Möchten Sie fortfahren?</translation>
+  </message>
+  <message id="cameraProgress">
+   <source>Photos copied</source>
+   <translation type="unfinished">Kopierte Fotos</translation>
+  </message>
+  <message id="cameraStop">
+   <source>&amp;Stop</source>
+   <translation type="unfinished">&amp;Anhalten</translation>
+  </message>
+  <message id="cameraStopping">
+   <source>Stopping...</source>
+   <translation type="unfinished">Wird angehalten ...</translation>
+  </message>
+  <message id="cameraClose">
+   <source>&amp;Close</source>
+   <translation type="unfinished">&amp;Schließen</translation>
+  </message>
+  <message id="cameraStopped">
+   <source>Stopped. The photos copied so far are in %1.</source>
+   <translation type="unfinished">Angehalten. Die bisher kopierten Fotos liegen in %1.</translation>
+  </message>
+  <message id="cameraFailed">
+   <source>A photo could not be copied: %1. The photos copied so far are in %2.</source>
+   <translation type="unfinished">Ein Foto konnte nicht kopiert werden: %1. Die bisher kopierten Fotos liegen in %2.</translation>
+  </message>
+  <message id="cameraKept">
+   <source>Some photos could not be deleted from the camera.</source>
+   <translation type="unfinished">Einige Fotos konnten nicht von der Kamera gelöscht werden.</translation>
+  </message>
+  <message id="cameraCopied" numerus="yes">
+   <source>%1 photos were copied.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Foto wurde kopiert.</numerusform>
+    <numerusform>%1 Fotos wurden kopiert.</numerusform>
+   </translation>
+  </message>
   <message id="captionStoring" numerus="yes">
    <source>Writing the captions of %1 photos</source>
    <translation type="unfinished">
@@ -983,10 +1046,6 @@
   <message id="missingHandset">
    <source>Exchange with the handset is not part of this version yet</source>
    <translation type="unfinished">Der Austausch mit dem Handy gehört noch nicht zu dieser Version</translation>
-  </message>
-  <message id="missingCamera">
-   <source>Taking photos over from a camera is not part of this version yet</source>
-   <translation type="unfinished">Fotos von einer Kamera zu übernehmen gehört noch nicht zu dieser Version</translation>
   </message>
   <message id="missingScanner">
    <source>Taking pictures from a scanner is not part of this version yet</source>

@@ -29,7 +29,7 @@ using enum CommandId;
 constexpr std::array kCommands = {
     Command{acquire, MenuId::file, commandAcquire, "", Mark::none, false, missingScanner},
     Command{selectSource, MenuId::file, commandSelectSource, ""},
-    Command{cameraDownload, MenuId::file, commandCameraDownload, "", Mark::none, false, missingCamera},
+    Command{cameraDownload, MenuId::file, commandCameraDownload, ""},
     Command{print, MenuId::file, commandPrint, "Ctrl+P", Mark::none, true},
     Command{eMail, MenuId::file, commandEMail, "Ctrl+E", Mark::none, false, missingMail},
     Command{properties, MenuId::file, commandProperties, "Alt+Enter", Mark::none, true},

@@ -59,11 +59,6 @@ bool WriteNumber(const char* section, const char* key, int value, const std::str
     return Os().profiles->WritePrivateProfileString(section, key, std::to_string(value), file);
 }
 
-int TakeNumber(bool useCounter, int& counter, int position)
-{
-    return useCounter ? counter++ : position;
-}
-
 }  // namespace
 
 bool CSettings::Load(const std::string& file)
@@ -134,25 +129,10 @@ bool CSettings::Save() const
     return true;
 }
 
-int CSettings::TakePhotoNumber(int position)
-{
-    return TakeNumber(useId, imgItemId, position);
-}
-
-int CSettings::TakeClipNumber(int position)
-{
-    return TakeNumber(useId, aviItemId, position);
-}
-
 CSettings*& CurrentSettings()
 {
     static CSettings* settings = nullptr;
     return settings;
-}
-
-std::string CameraFileStem(const std::string& folder, const std::string& prefix, int number)
-{
-    return fmt::format("{}/{}{:05}.", folder, prefix, number);
 }
 
 OptionValues LoadOptions(const std::string& programFolder)

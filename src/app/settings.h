@@ -28,10 +28,6 @@ public:
     bool Load(const std::string& file);
     // Writes "Setting", then, with useId, the counters of "FileId". False when nothing was loaded.
     bool Save() const;
-    // The number for the next photo (or clip) taken over from a camera: the counter, which then grows, or
-    // `position` when numbers follow the camera's list.
-    int TakePhotoNumber(int position);
-    int TakeClipNumber(int position);
 
     int delDscPhoto = 2;
     int sort = 0;
@@ -57,9 +53,6 @@ private:
 
 // The settings of the main window; null while there is none. Not owned.
 CSettings*& CurrentSettings();
-
-// "DSC00041." for the photo of that number in a folder: folder, separator, prefix, five digits or more, dot.
-std::string CameraFileStem(const std::string& folder, const std::string& prefix, int number);
 
 // The option dialog's state.
 struct OptionValues {

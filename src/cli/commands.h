@@ -22,6 +22,7 @@ void AddCaptionCommand(CLI::App& parser, CContext& context);
 void AddStampCommand(CLI::App& parser, CContext& context);
 void AddRenameCommands(CLI::App& parser, CContext& context);  // rename, undo
 void AddSoundCommand(CLI::App& parser, CContext& context);
+void AddCameraCommand(CLI::App& parser, CContext& context);
 void AddWatchCommand(CLI::App& parser, CContext& context);
 
 // The option that chooses the media types of a list.

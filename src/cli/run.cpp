@@ -31,6 +31,7 @@ int Run(int argc, const char* const* argv, const char* version)
     AddStampCommand(parser, context);
     AddRenameCommands(parser, context);
     AddSoundCommand(parser, context);
+    AddCameraCommand(parser, context);
     AddWatchCommand(parser, context);
     CatchInterruptions();
     try {

@@ -22,7 +22,7 @@ inline constexpr int kMsdAll = 3;
 class CMsdModule
 {
 public:
-    // Told how much of the file there is, of a whole that may be 0 where it is not known.
+    // Told now and then how much of the file is copied, and of how much, in kilobytes.
     using Progress = void (*)(int done, int all);
 
     virtual ~CMsdModule() = default;

@@ -323,6 +323,33 @@ class Kelvoctl(unittest.TestCase):
         self.assertFalse((self.work / "x.mmf").exists())
         self.assertEqual((self.work / "tune.MID").read_bytes(), tune)
 
+    def test_a_camera_is_copied_with_its_messages_and_emptied_only_when_told(self):
+        card = self.work / "card"
+        self.env["KELVO_CAMERA_ROOT"] = str(card)
+        gone = self.run_it("--json", "camera", "copy", status=1)
+        self.assertEqual(json.loads(gone.stdout)["message"], "Camera is not available. Please try again.")
+        (card / "DCIM/100").mkdir(parents=True)
+        none = self.run_it("camera", "copy", status=1)
+        self.assertIn(b"There no photo in the camera.\nPlease check your camera.\n", none.stderr)
+        for name in ("a.JPG", "b.jpg", "c.avi"):
+            (card / "DCIM/100" / name).write_text(name)
+        self.assertEqual(self.json("camera", "list"), {"photos": 2, "clips": 1})
+        program = self.work / "program"
+        program.mkdir()
+        self.env["KELVO_PROGRAM_FOLDER"] = str(program)
+        for setting, left in ((2, 3), (1, 0)):
+            (program / "Kelvo.ini").write_text(
+                f"[Setting]\nDelDscPhoto={setting}\n[FileId]\nUseID=1\nImgItemID=41\n")
+            copy = self.json("camera", "copy", "--to", f"out{setting}")
+            folder = Path(copy["folder"])
+            self.assertRegex(folder.name, r"^\d\d-\d\d-\d{4} \d\d-\d\d-\d\d$")
+            self.assertEqual((copy["copied"], copy["total"]), (3, 3))
+            self.assertEqual([Path(file).name for file in copy["files"]],
+                             ["DSC00041.JPG", "DSC00042.jpg", "AVI00000.avi"])
+            self.assertEqual((folder / "DSC00042.jpg").read_text(), "b.jpg")
+            self.assertEqual(self.json("settings", "show")["imgItemId"], 43)
+            self.assertEqual(len(list((card / "DCIM/100").iterdir())), left)
+
     def test_exif_prints_every_field_and_goes_on_past_failures(self):
         photos = self.work / "photos"
         photos.mkdir()

@@ -43,7 +43,8 @@ void CCopyAhead::Stop()
     changed.notify_all();
 }
 
-// Empty when there is nothing more to do. A batch holds one file at least, however large.
+// Empty when there is nothing more to do. A large file is a batch of its own, so that none waits for it but
+// itself.
 CCopyAhead::Batch CCopyAhead::NextBatch()
 {
     std::unique_lock lock(mutex);
@@ -53,7 +54,8 @@ CCopyAhead::Batch CCopyAhead::NextBatch()
     });
     Batch batch;
     std::uint64_t bytes = 0;
-    while (!stopped && begun < files.size() && batch.size() < kBatchFiles && bytes < kBatchBytes) {
+    while (!stopped && begun < files.size() && batch.size() < kBatchFiles &&
+           (batch.empty() || bytes + files[begun]->size <= kBatchBytes)) {
         bytes += files[begun]->size;
         items[begun].copy = std::make_unique<CVerifiedCopy>(files[begun]->path, folder);
         batch.push_back(begun++);
@@ -92,15 +94,6 @@ void CCopyAhead::Work()
         MakeBatch(batch);
 }
 
-// Called with the lock held by Take.
-void CCopyAhead::Tell(Progress progress, std::size_t index)
-{
-    const auto found = items.find(index);
-    if (progress && found != items.end())
-        progress(static_cast<int>(found->second.copy->BytesCopied() >> 10),
-                 static_cast<int>(files[index]->size >> 10));
-}
-
 std::unique_ptr<CVerifiedCopy> CCopyAhead::Take(Progress progress)
 {
     constexpr std::chrono::milliseconds kBetweenReports{200};
@@ -109,8 +102,15 @@ std::unique_ptr<CVerifiedCopy> CCopyAhead::Take(Progress progress)
         const auto found = items.find(taken);
         return stopped || (found != items.end() && found->second.isDone);
     };
-    while (!changed.wait_for(lock, kBetweenReports, isReady))
-        Tell(progress, taken);
+    while (!changed.wait_for(lock, kBetweenReports, isReady)) {
+        const auto found = items.find(taken);
+        if (!progress || found == items.end())
+            continue;
+        const auto done = static_cast<int>(found->second.copy->BytesCopied() >> 10);
+        lock.unlock();
+        progress(done, static_cast<int>(files[taken]->size >> 10));
+        lock.lock();
+    }
     if (stopped)
         return nullptr;
     auto node = items.extract(taken);

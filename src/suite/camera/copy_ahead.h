@@ -50,7 +50,6 @@ private:
     Batch NextBatch();
     void MakeBatch(const Batch& batch);
     void SetDone(std::size_t index);
-    void Tell(Progress progress, std::size_t index);
 
     const std::vector<const StoredFile*>& files;
     const std::string folder;

@@ -20,6 +20,8 @@ namespace
 
 // Small enough to stop within a moment, on a slow card too.
 constexpr std::size_t kPiece = std::size_t{4} << 20;
+// What may be on its way to the medium of one file: a stop has to wait for no more.
+constexpr std::uint64_t kInFlight = std::uint64_t{64} << 20;
 // Two of them stay in a processor's own memory.
 constexpr std::size_t kBuffer = std::size_t{256} << 10;
 
@@ -124,6 +126,9 @@ void CVerifiedCopy::Advance(std::uint64_t bytes)
     const std::uint64_t before = copied.fetch_add(bytes);
     sync_file_range(copy.Get(), static_cast<off64_t>(before), static_cast<off64_t>(bytes),
                     SYNC_FILE_RANGE_WRITE);
+    if (before >= kInFlight)
+        sync_file_range(copy.Get(), static_cast<off64_t>(before - kInFlight), static_cast<off64_t>(bytes),
+                        SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER);
 }
 
 bool CVerifiedCopy::CopyInKernel()

@@ -4,6 +4,7 @@
 
 #include "app/suite_programs.h"
 #include "platform/file_system.h"
+#include "ui/camera/camera_dialog.h"
 #include "ui/dialogs/properties_dialog.h"
 #include "ui/display_text.h"
 #include "ui/main_frame.h"
@@ -53,12 +54,37 @@ void ShowProperties(CMainFrame& frame)
     dialog->open();
 }
 
+void CopyFromCamera(CMainFrame& frame)
+{
+    const app::CSettings& settings = *app::CurrentSettings();
+    auto* dialog = new CCameraDialog({frame.Application().ProgramFolder(),
+                                      frame.Application().MobileDownloadFolder(),
+                                      settings.delDscPhoto,
+                                      {settings.useId, settings.imgItemId, settings.aviItemId}},
+                                     &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &CCameraDialog::Counted, &frame, [](const handset::CameraNumbers& numbers) {
+        if (app::CSettings* kept = app::CurrentSettings()) {
+            kept->imgItemId = numbers.photo;
+            kept->aviItemId = numbers.clip;
+        }
+    });
+    QObject::connect(dialog, &CCameraDialog::Ended, &frame, [&frame](int copied, bool kept) {
+        if (copied > 0)
+            frame.Status()->showMessage(Counted(StringId::cameraCopied, copied), 10'000);
+        if (kept)
+            frame.Tell(Text(StringId::cameraKept));
+    });
+    dialog->open();
+}
+
 }  // namespace
 
 CFileCommands::CFileCommands(CCommandRouter& router, CMainFrame& frame)
 {
     using enum app::CommandId;
     router.On(print, [&frame] { Print(frame); });
+    router.On(cameraDownload, [&frame] { CopyFromCamera(frame); });
     router.On(properties, [&frame] { ShowProperties(frame); });
     router.On(app::CommandId::exit, [&frame] { frame.close(); });
 }

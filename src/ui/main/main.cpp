@@ -10,6 +10,7 @@
 #include "platform_linux/linux_serial_ports.h"
 #include "platform_linux/services.h"
 #include "suite/acquire/sane_sources.h"
+#include "suite/camera/msd_module.h"
 #include "suite/image/image_library.h"
 #include "suite/utility/utility_library.h"
 #include "ui/command_line.h"
@@ -169,6 +170,8 @@ int main(int argc, char** argv)
     utility.Install();
     suite::CSuiteImageLibrary images;
     platform::Os().images = &images;
+    suite::CMountedStore camera;
+    platform::Os().cameraStore = &camera;
 
     Program program;
     std::error_code noFolder;

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings.h"
+#include "app/string_table.h"
+#include "cli/commands.h"
+#include "handset/camera_copy.h"
+#include "platform/services.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <thread>
+
+namespace cli
+{
+
+namespace
+{
+
+constexpr const char* kCamera = "camera";
+
+// Prints what the dialog would show. Nobody answers its question here, so the answer is No.
+class CTerminalHost final : public handset::CCameraCopyHost
+{
+public:
+    explicit CTerminalHost(CContext& theContext) : context(theContext) {}
+
+    void ShowMessage(platform::StringId text) override
+    {
+        message = app::Strings().LoadString(text);
+        context.Fail(kCamera, message.get<std::string>());
+    }
+    int AskYesNo(platform::StringId text) override
+    {
+        bar.reset();
+        message = app::Strings().LoadString(text);
+        fmt::print(stderr, "{}\n", message.get<std::string>());
+        return handset::kBoxNo;
+    }
+    void ShowCount(int copied, int total) override
+    {
+        if (!bar) {
+            bar.emplace(context, static_cast<std::size_t>(total));
+        }
+        bar->ShowDone(static_cast<std::size_t>(copied));
+    }
+
+    std::optional<CProgressBar> bar;
+    Json message = nullptr;
+
+private:
+    CContext& context;
+};
+
+// Ends the copy when the program is interrupted, in the middle of a file too.
+class CInterruptionGuard
+{
+public:
+    explicit CInterruptionGuard(handset::CCameraCopy& copy)
+        : interrupted(platform::Os().changes->CreateEvent()), ended(platform::Os().changes->CreateEvent())
+    {
+        if (!interrupted || !ended) {
+            return;
+        }
+        WakeAtInterruption(interrupted.get());
+        thread = std::thread([this, &copy] {
+            const std::array<platform::CWaitable*, 2> events = {interrupted.get(), ended.get()};
+            if (platform::Os().changes->WaitForMultipleObjects(events, platform::kNoTimeOut) ==
+                platform::kWaitObject0) {
+                copy.Cancel();
+            }
+        });
+    }
+    ~CInterruptionGuard()
+    {
+        if (thread.joinable()) {
+            WakeAtInterruption(nullptr);
+            ended->Set();
+            thread.join();
+        }
+    }
+    CInterruptionGuard(const CInterruptionGuard&) = delete;
+    CInterruptionGuard& operator=(const CInterruptionGuard&) = delete;
+
+private:
+    std::unique_ptr<platform::CEvent> interrupted;
+    std::unique_ptr<platform::CEvent> ended;
+    std::thread thread;
+};
+
+void ReportLeftOut(CContext& context)
+{
+    for (const std::string& path : platform::Os().cameraStore->LeftOut()) {
+        context.Fail(path, "cannot be read and is left out");
+    }
+}
+
+void CopyAll(CContext& context, handset::CCameraCopy& copy)
+{
+    const CInterruptionGuard guard(copy);
+    if (!copy.Start()) {
+        return;
+    }
+    ReportLeftOut(context);
+    while (Interruption() == 0 && copy.Step()) {
+    }
+    copy.Finish();
+    if (!copy.Failure().empty()) {
+        context.Fail(copy.Folder(), fmt::format("file {} of {} cannot be copied: {}", copy.Files().size() + 1,
+                                                copy.Total(), copy.Failure()));
+    }
+    if (copy.HasKeptPhotos()) {
+        context.Fail(kCamera, "some photos could not be deleted");
+    }
+}
+
+void RunCopy(CContext& context, const std::string& target)
+{
+    const app::CKelvoApp& application = context.Application();
+    app::CSettings settings;
+    settings.Load(application.ProgramFolder() + "/Kelvo.ini");
+    CTerminalHost host(context);
+    handset::CCameraCopy copy(*platform::Os().cameraStore,
+                              {application.ProgramFolder(),
+                               target.empty() ? application.MobileDownloadFolder() : AbsolutePath(target),
+                               settings.delDscPhoto,
+                               {settings.useId, settings.imgItemId, settings.aviItemId}},
+                              host);
+    CopyAll(context, copy);
+    host.bar.reset();
+    if (settings.useId && !copy.Files().empty()) {
+        settings.imgItemId = copy.Numbers().photo;
+        settings.aviItemId = copy.Numbers().clip;
+        settings.Save();
+    }
+    const std::string* folder = copy.Folder().empty() ? nullptr : &copy.Folder();
+    context.PrintJson({{"folder", TextOrNull(folder)},
+                       {"copied", copy.Files().size()},
+                       {"total", copy.Total()},
+                       {"files", copy.Files()},
+                       {"message", host.message}});
+    for (const std::string& file : copy.Files()) {
+        context.PrintLine(file);
+    }
+}
+
+void RunList(CContext& context)
+{
+    platform::CMsdModule& camera = *platform::Os().cameraStore;
+    if (camera.InitMsd(context.Application().ProgramFolder() + "/Dev.ini", 0, platform::kMsdAll) == 0) {
+        context.Fail(kCamera, app::Strings().LoadString(platform::StringId::cameraNotAvailable));
+    }
+    int photos = 0;
+    int clips = 0;
+    camera.GetFileCount(platform::kMsdPhoto, &photos);
+    camera.GetFileCount(platform::kMsdClip, &clips);
+    ReportLeftOut(context);
+    camera.UnInitMsd();
+    context.PrintJson({{"photos", photos}, {"clips", clips}});
+    context.PrintLine(fmt::format("photos\t{}", photos));
+    context.PrintLine(fmt::format("clips\t{}", clips));
+}
+
+}  // namespace
+
+void AddCameraCommand(CLI::App& parser, CContext& context)
+{
+    auto* camera = parser.add_subcommand("camera", "Photos and clips of a camera or card that is mounted");
+    camera->require_subcommand(1);
+    auto* copy = camera->add_subcommand("copy", "Copy all of them into a new folder named by the time");
+    auto target = std::make_shared<std::string>();
+    copy->add_option("--to", *target, "Make that folder in DIR instead of the download folder");
+    copy->callback([&context, target] { RunCopy(context, *target); });
+    auto* list = camera->add_subcommand("list", "Print how many there are");
+    list->callback([&context] { RunList(context); });
+}
+
+}  // namespace cli
