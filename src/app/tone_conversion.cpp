@@ -50,7 +50,8 @@ CToneConversion::RowState CToneConversion::State(std::size_t row) const
         return Plan(row) ? RowState::refused : RowState::waiting;
     if (outcome->size > sound::kLongestRingTone)
         return RowState::tooLong;
-    return Losses(row).empty() ? RowState::good : RowState::lossy;
+    const bool isHalved = halves && CanBeHalved(plans[row]);
+    return plans[row].losses.empty() && !isHalved ? RowState::good : RowState::lossy;
 }
 
 std::vector<ToneLoss> CToneConversion::Losses(std::size_t row) const

@@ -29,6 +29,7 @@ public:
     void Take(TonePlan plan);
 
     std::size_t Count() const { return sources.size(); }
+    std::size_t Planned() const { return plans.size(); }
     const std::string& Source(std::size_t row) const { return sources[row]; }
     // Null while it is waiting.
     const TonePlan* Plan(std::size_t row) const { return row < plans.size() ? &plans[row] : nullptr; }

@@ -135,6 +135,8 @@ void CToneDialog::MakeParts()
     halve->setToolTip(Text(StringId::toneHalveTip));
     connect(halve, &QCheckBox::toggled, this, [this](bool on) {
         conversion.Halve(on);
+        for (std::size_t row = 0; row < conversion.Count(); ++row)
+            ShowRow(row);
         Update();
     });
 }
@@ -160,6 +162,7 @@ void CToneDialog::MakeTable()
     for (std::size_t row = 0; row < conversion.Count(); ++row) {
         auto* item = new QTreeWidgetItem(table);
         item->setText(fileColumn, NameOf(conversion.Source(row)));
+        item->setText(noteColumn, Text(StringId::toneLooking));
         item->setTextAlignment(sizeColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setTextAlignment(lengthColumn, Qt::AlignRight | Qt::AlignVCenter);
     }
@@ -222,7 +225,9 @@ void CToneDialog::PlanNext()
     InBackground(
         this, [path = *path, taken = conversion.Taken()] { return app::PlanTone(path, taken); },
         [this](app::TonePlan plan) {
+            const std::size_t row = conversion.Planned();
             conversion.Take(std::move(plan));
+            ShowRow(row);
             Update();
             PlanNext();
         });
@@ -236,10 +241,8 @@ std::size_t CToneDialog::CurrentRow() const
 void CToneDialog::Update()
 {
     bool isWarning = false;
-    for (std::size_t row = 0; row < conversion.Count(); ++row) {
-        ShowRow(row);
+    for (std::size_t row = 0; row < conversion.Count(); ++row)
         isWarning = isWarning || IsWarning(conversion.State(row));
-    }
     sign->setVisible(isWarning);
     summary->setText(CountText(conversion.Summary()));
     ok->setText(Counted(conversion.ButtonText(), static_cast<qint64>(conversion.Convertible())));
