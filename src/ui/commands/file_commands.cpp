@@ -4,6 +4,7 @@
 
 #include "app/suite_programs.h"
 #include "platform/file_system.h"
+#include "platform/services.h"
 #include "ui/camera/camera_dialog.h"
 #include "ui/dialogs/properties_dialog.h"
 #include "ui/display_text.h"
@@ -57,6 +58,8 @@ void ShowProperties(CMainFrame& frame)
 void CopyFromCamera(CMainFrame& frame)
 {
     const app::CSettings& settings = *app::CurrentSettings();
+    if (!platform::Os().cameraStore)
+        return frame.Tell(Text(StringId::cameraNotAvailable));
     auto* dialog = new CCameraDialog({frame.Application().ProgramFolder(),
                                       frame.Application().MobileDownloadFolder(),
                                       settings.delDscPhoto,
