@@ -42,7 +42,7 @@ enum HandsetResult : int {
 // One file of one transfer.
 struct tag_DataType {  // NOLINT(readability-identifier-naming)
     FileDataType type = FileDataType::photo;
-    std::string path;  // the file to send, at most 259 bytes; not used for fetching
+    std::string path;  // the file to send; not used for fetching
     int position = 0;  // which of the category's files to fetch, from 0, in the order of their names
 };
 

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CReceivedFile: a file on its way into a folder, out of sight until it is whole.
+//
+// It takes the first free of the names "a.jpg", "a (2).jpg", ... and replaces nothing. Where one of those
+// before holds the very same bytes, that file stands for it. Nothing is left of one that was not kept.
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace suite
+{
+
+constexpr std::uint64_t kLongestReceived = 1ULL << 30;  // bytes; no handset has longer ones
+
+class CReceivedFile
+{
+public:
+    // Into the folder of the record file, whose own name is never taken.
+    CReceivedFile(const std::string& recordFile, std::string wantedName);
+
+    bool Begin();
+    bool Add(std::span<const std::byte> bytes);
+    bool Keep();
+    // Takes back what Keep did.
+    void Drop();
+
+    // Under which it was kept.
+    const std::string& Name() const { return name; }
+    bool IsFull() const { return full; }
+    const std::string& Error() const { return error; }
+
+private:
+    bool Fail(const std::string& path);
+    std::string Candidate(int number) const;
+    bool IsSameAs(const std::string& path);
+
+    std::string folder;  // with the separator
+    std::string recordName;
+    std::string wanted;
+    std::string name;
+    std::unique_ptr<platform::CReplacement> pending;
+    std::uint64_t size = 0;
+    bool isNew = false;
+    bool full = false;
+    std::string error;
+};
+
+}  // namespace suite
