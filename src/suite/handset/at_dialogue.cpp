@@ -13,10 +13,8 @@ namespace suite
 namespace
 {
 
-constexpr int kGreetingPatience = 1000;
-constexpr int kTextPatience = 2000;
-constexpr int kSwitchPatience = 5000;
 constexpr int kSlice = 100;
+constexpr int kPause = 20;
 constexpr std::size_t kLongestAnswer = 4096;
 constexpr std::size_t kLongestText = 80;
 
@@ -50,16 +48,16 @@ bool CAtDialogue::Greet(const std::string& device)
         line.Close();
         QElapsedTimer pause;
         pause.start();
-        while (pause.elapsed() < kGreetingPatience) {
+        while (pause.elapsed() < patience.greeting) {
             if (stop())
                 return false;
-            QThread::msleep(kSlice);
+            QThread::msleep(kPause);
         }
         if (!line.Open(device) || !AnswersToAt())
             return false;
     }
     std::string ignored;
-    Ask("ATE0", kTextPatience, ignored);
+    Ask("ATE0", patience.text, ignored);
     return line.IsOpen();
 }
 
@@ -67,7 +65,7 @@ bool CAtDialogue::AnswersToAt()
 {
     std::string ignored;
     for (int i = 0; i < 3 && line.IsOpen() && !stop(); ++i) {
-        if (Ask("AT", kGreetingPatience, ignored))
+        if (Ask("AT", patience.greeting, ignored))
             return true;
     }
     return false;
@@ -77,13 +75,13 @@ bool CAtDialogue::EnterObex()
 {
     const auto enter = [this](const char* command) {
         std::string answer;
-        return Ask(command, kSwitchPatience, answer) && answer.find("CONNECT") != std::string::npos;
+        return Ask(command, patience.entering, answer) && answer.find("CONNECT") != std::string::npos;
     };
     if (!enter("AT+CPROT=0") && !enter("AT*EOBEX") && !enter("AT+MODE=22"))
         return false;
     // A line feed that comes late would spoil the first packet.
     std::string rest;
-    while (rest.size() < kLongestAnswer && line.Read(rest, 2 * kSlice) == CSerialLine::State::data) {
+    while (rest.size() < kLongestAnswer && line.Read(rest, patience.settling) == CSerialLine::State::data) {
     }
     return line.IsOpen();
 }
@@ -118,7 +116,7 @@ bool CAtDialogue::Ask(const std::string& command, int milliseconds, std::string&
 std::string CAtDialogue::Text(const std::string& command)
 {
     std::string answer;
-    if (!Ask(command, kTextPatience, answer))
+    if (!Ask(command, patience.text, answer))
         return {};
     for (std::size_t at = 0; at < answer.size();) {
         const std::size_t end = std::min(answer.find_first_of("\r\n", at), answer.size());

@@ -3,6 +3,7 @@
 // CAtDialogue: the modem commands with which a conversation with a handset begins.
 #pragma once
 
+#include "suite/handset/line_patience.h"
 #include "suite/handset/serial_line.h"
 
 #include <string>
@@ -13,8 +14,8 @@ namespace suite
 class CAtDialogue
 {
 public:
-    CAtDialogue(CSerialLine& serialLine, std::function<bool()> stopAsked)
-        : line(serialLine), stop(std::move(stopAsked))
+    CAtDialogue(CSerialLine& serialLine, const LinePatience& linePatience, std::function<bool()> stopAsked)
+        : line(serialLine), patience(linePatience), stop(std::move(stopAsked))
     {
     }
 
@@ -34,6 +35,7 @@ private:
     std::string Text(const std::string& command);
 
     CSerialLine& line;
+    LinePatience patience;
     std::function<bool()> stop;
 };
 

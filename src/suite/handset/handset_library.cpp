@@ -253,7 +253,7 @@ std::shared_ptr<CHandsetSession> CHandsetLibrary::SessionOf(unsigned port)
     const std::string device = host.deviceOfPort(port);
     if (device.empty())
         return nullptr;
-    session = std::make_shared<CHandsetSession>(device);
+    session = std::make_shared<CHandsetSession>(device, host.patience);
     sessions[port] = session;
     return session;
 }

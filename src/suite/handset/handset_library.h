@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/handset_link.h"
+#include "suite/handset/line_patience.h"
 
 #include <functional>
 #include <map>
@@ -20,6 +21,7 @@ struct HandsetHost {
     std::function<std::string(unsigned port)> deviceOfPort;
     // Adds a fetched file's record to a record file.
     std::function<bool(const std::string& recordFile, const std::string& fileName, int index)> addRecord;
+    LinePatience patience;
 };
 
 class CHandsetLibrary final : public platform::CHandsetLink

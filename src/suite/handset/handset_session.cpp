@@ -82,7 +82,7 @@ bool CHandsetSession::Greet()
         return true;
     }
     Close();
-    CAtDialogue dialogue(line, [this] { return aborted.load(); });
+    CAtDialogue dialogue(line, patience, [this] { return aborted.load(); });
     if (!dialogue.Greet(device)) {
         error = line.IsOpen() ? device + ": no handset answers" : line.Error();
         Close();
@@ -100,12 +100,12 @@ bool CHandsetSession::Open()
     if (!line.IsOpen() && !Greet())
         return false;
     const auto stop = [this] { return aborted.load(); };
-    if (!CAtDialogue(line, stop).EnterObex()) {
+    if (!CAtDialogue(line, patience, stop).EnterObex()) {
         error = device + ": the handset does not speak OBEX";
         Close();
         return false;
     }
-    obex = MakeObexClient(line, stop);
+    obex = MakeObexClient(line, patience, stop);
     return Checked(obex->Connect(), "connecting").IsGood();
 }
 

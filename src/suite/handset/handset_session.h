@@ -8,6 +8,7 @@
 
 #include "platform/handset_link.h"
 #include "suite/handset/folder_listing.h"
+#include "suite/handset/line_patience.h"
 #include "suite/handset/obex_client.h"
 
 #include <atomic>
@@ -20,7 +21,10 @@ namespace suite
 class CHandsetSession
 {
 public:
-    explicit CHandsetSession(std::string devicePath) : device(std::move(devicePath)) {}
+    CHandsetSession(std::string devicePath, const LinePatience& linePatience)
+        : device(std::move(devicePath)), patience(linePatience)
+    {
+    }
     ~CHandsetSession() { Close(); }
 
     // Whether the handset answers now.
@@ -51,6 +55,7 @@ private:
     ObexAnswer Checked(const ObexAnswer& answer, const std::string& what);
 
     std::string device;
+    LinePatience patience;
     CSerialLine line;
     std::unique_ptr<CObexClient> obex;
     std::map<platform::FileDataType, std::vector<ListedFile>> listings;

@@ -6,6 +6,7 @@
 // `stop` says so. After any of the last three the client is of no use any more. One thread.
 #pragma once
 
+#include "suite/handset/line_patience.h"
 #include "suite/handset/serial_line.h"
 
 #include <cstdint>
@@ -44,6 +45,7 @@ public:
 };
 
 // On libopenobex. The line outlives the client.
-std::unique_ptr<CObexClient> MakeObexClient(CSerialLine& line, std::function<bool()> stop);
+std::unique_ptr<CObexClient> MakeObexClient(CSerialLine& line, const LinePatience& patience,
+                                            std::function<bool()> stop);
 
 }  // namespace suite

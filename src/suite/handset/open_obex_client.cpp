@@ -20,8 +20,6 @@ namespace
 {
 
 constexpr int kSlice = 100;
-constexpr int kShortSilence = 8'000;  // milliseconds
-constexpr int kTransferSilence = 25'000;
 constexpr std::uint16_t kPacket = 8192;
 constexpr std::array<std::uint8_t, 16> kFolderBrowsing = {0xF9, 0xEC, 0x7B, 0xC4, 0x95, 0x3C, 0x11, 0xD2,
                                                           0x98, 0x4E, 0x52, 0x54, 0x00, 0xDC, 0x9E, 0x09};
@@ -29,7 +27,8 @@ constexpr std::array<std::uint8_t, 16> kFolderBrowsing = {0xF9, 0xEC, 0x7B, 0xC4
 class COpenObexClient final : public CObexClient
 {
 public:
-    COpenObexClient(CSerialLine& serialLine, std::function<bool()> stopAsked);
+    COpenObexClient(CSerialLine& serialLine, const LinePatience& linePatience,
+                    std::function<bool()> stopAsked);
     ~COpenObexClient() override;
 
     ObexAnswer Connect() override;
@@ -55,12 +54,13 @@ private:
     int TakeInput(int milliseconds);
 
     CSerialLine& line;
+    LinePatience times;
     std::function<bool()> stop;
     obex_t* obex = nullptr;
     std::string input;  // came over the line and is not taken yet
     std::size_t inputTaken = 0;
     QElapsedTimer quiet;
-    int patience = kShortSilence;
+    int patience = 0;  // of the running request, milliseconds
     std::optional<std::uint32_t> connection;
     std::optional<ObexAnswer> ended;
     const Source* source = nullptr;
@@ -68,8 +68,9 @@ private:
     std::vector<std::byte> block;
 };
 
-COpenObexClient::COpenObexClient(CSerialLine& serialLine, std::function<bool()> stopAsked)
-    : line(serialLine), stop(std::move(stopAsked)), block(kPacket)
+COpenObexClient::COpenObexClient(CSerialLine& serialLine, const LinePatience& linePatience,
+                                 std::function<bool()> stopAsked)
+    : line(serialLine), times(linePatience), stop(std::move(stopAsked)), block(kPacket)
 {
     obex = OBEX_Init(OBEX_TRANS_CUSTOM, &OnEvent, 0);
     if (!obex)
@@ -170,7 +171,7 @@ ObexAnswer COpenObexClient::Connect()
     if (!request)
         return {ObexAnswer::Kind::gone};
     AddBytes(request, OBEX_HDR_TARGET, kFolderBrowsing);
-    return Run(request, kShortSilence);
+    return Run(request, times.request);
 }
 
 ObexAnswer COpenObexClient::SetPath(const std::string& folder)
@@ -181,7 +182,7 @@ ObexAnswer COpenObexClient::SetPath(const std::string& folder)
         return {ObexAnswer::Kind::gone};
     OBEX_ObjectSetNonHdrData(request, kDoNotCreate.data(), kDoNotCreate.size());
     AddName(request, folder);
-    return Run(request, kShortSilence);
+    return Run(request, times.request);
 }
 
 ObexAnswer COpenObexClient::Put(const std::string& name, std::uint32_t length, const Source& bytes)
@@ -193,7 +194,7 @@ ObexAnswer COpenObexClient::Put(const std::string& name, std::uint32_t length, c
     AddNumber(request, OBEX_HDR_LENGTH, length);
     source = &bytes;
     OBEX_ObjectAddHeader(obex, request, OBEX_HDR_BODY, {}, 0, OBEX_FL_STREAM_START);
-    const ObexAnswer answer = Run(request, kTransferSilence);
+    const ObexAnswer answer = Run(request, times.transfer);
     source = nullptr;
     return answer;
 }
@@ -209,7 +210,7 @@ ObexAnswer COpenObexClient::Get(const std::string& name, const std::string& type
     if (!name.empty())
         AddName(request, name);
     sink = &taker;
-    const ObexAnswer answer = Run(request, kTransferSilence, true);
+    const ObexAnswer answer = Run(request, times.transfer, true);
     sink = nullptr;
     return answer;
 }
@@ -220,7 +221,7 @@ ObexAnswer COpenObexClient::Delete(const std::string& name)
     if (!request)
         return {ObexAnswer::Kind::gone};
     AddName(request, name);
-    return Run(request, kShortSilence);
+    return Run(request, times.request);
 }
 
 ObexAnswer COpenObexClient::Run(obex_object_t* request, int silence, bool readsStream)
@@ -313,9 +314,10 @@ void COpenObexClient::TakeMore(obex_object_t* object)
 
 }  // namespace
 
-std::unique_ptr<CObexClient> MakeObexClient(CSerialLine& line, std::function<bool()> stop)
+std::unique_ptr<CObexClient> MakeObexClient(CSerialLine& line, const LinePatience& patience,
+                                            std::function<bool()> stop)
 {
-    return std::make_unique<COpenObexClient>(line, std::move(stop));
+    return std::make_unique<COpenObexClient>(line, patience, std::move(stop));
 }
 
 }  // namespace suite

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: The Kelvo authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "handset/record_file.h"
+#include "platform_linux/services.h"
+#include "simulator.h"
+#include "suite/handset/handset_library.h"
+#include "support/services_guard.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <gmock/gmock.h>
+
+namespace
+{
+
+using platform::FileDataType;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<int> percentages;
+platform::CUpDownLoad* toAbort = nullptr;
+
+// Long enough for a busy machine, short enough for silence to be tested.
+constexpr suite::LinePatience kShort{300, 300, 300, 50, 1500, 1500};
+
+std::string Noise(std::size_t size)
+{
+    std::string bytes(size, '\0');
+    unsigned state = 12345;
+    for (char& byte : bytes)
+        byte = static_cast<char>((state = state * 1664525U + 1013904223U) >> 24);
+    return bytes;
+}
+
+class Transfer : public testing::Test
+{
+protected:
+    Transfer()
+        : application(argc, nullptr), guard(platform::Services{}),
+          library({[this](unsigned port) { return port == 3 ? simulator.Port() : ""; },
+                   handset::AddHandsetRecord, kShort})
+    {
+        services.Install();
+        platform::Os().handset = &library;
+        percentages.clear();
+        platform::SetProgressFunc([](int percent) {
+            percentages.push_back(percent);
+            if (toAbort && percent >= 20)
+                toAbort->Abort();
+        });
+    }
+    ~Transfer() override { toAbort = nullptr; }
+
+    std::unique_ptr<platform::CUpDownLoad> NewLink()
+    {
+        auto link = library.NewUpDownLoad();
+        link->SetConnectPort(3);
+        return link;
+    }
+    int Send(const std::string& path, FileDataType type = FileDataType::photo)
+    {
+        const auto link = NewLink();
+        link->SetDataType({type, path});
+        toAbort = aborts ? link.get() : nullptr;
+        const int result = link->StartUpload(code);
+        error = link->LastError();
+        return result;
+    }
+    int Fetch(int position, FileDataType type = FileDataType::photo)
+    {
+        const auto link = NewLink();
+        link->SetDatabaseName(records);
+        link->SetDataType({type, "", position});
+        toAbort = aborts ? link.get() : nullptr;
+        const int result = link->StartDownload(code);
+        error = link->LastError();
+        return result;
+    }
+    std::vector<std::string> FetchedNames()
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+            names.push_back(entry.path().filename().string());
+        std::ranges::sort(names);
+        return names;
+    }
+
+    int argc = 0;
+    QCoreApplication application;
+    CSimulator simulator;
+    support::CTempFolder folder;
+    support::CServicesGuard guard;
+    platform_linux::CLinuxServices services;
+    suite::CHandsetLibrary library;
+    const std::string records = folder.Path("mobilefile.dbs");
+    int code = 0;
+    bool aborts = false;
+    std::string error;
+};
+
+TEST_F(Transfer, FilesOfAnySizeGoThereAndComeBack)
+{
+    support::CTempFolder source;
+    const auto held = NewLink();
+    ASSERT_EQ(held->ATInit(), 1) << held->LastError();
+    EXPECT_EQ(held->Manufacturer() + "," + held->Model(), "Halden,Tessa 1");
+    int count = 0;
+    for (const std::size_t size : {0, 1, 8180, 8192, 70'000, 1 << 20}) {
+        SCOPED_TRACE(size);
+        const std::string name = "f" + std::to_string(count) + ".jpg";
+        const std::string bytes = Noise(size);
+
+        ASSERT_EQ(Send(source.Make(name, bytes)), 1) << error;
+        EXPECT_EQ(percentages.front(), 0);
+        EXPECT_EQ(percentages.back(), 100);
+        ASSERT_EQ(held->GetFileCount(FileDataType::photo), ++count);
+        percentages.clear();
+        ASSERT_EQ(Fetch(count - 1), 1) << error;
+
+        EXPECT_EQ(support::ReadBytes(simulator.root.Path("My Album/" + name)), bytes);
+        EXPECT_EQ(support::ReadBytes(folder.Path(name)), bytes);
+        EXPECT_NE(handset::FindHandsetIndex(records, name), 0);
+        EXPECT_TRUE(std::ranges::is_sorted(percentages));
+    }
+}
+
+TEST_F(Transfer, SixHundredFilesWithLongNamesAreCountedAndFetched)
+{
+    const std::string longName(190, 'n');
+    for (int i = 0; i < 600; ++i)
+        support::WriteBytes(simulator.root.Path("Ring/" + longName + std::to_string(1000 + i) + ".mmf"), "x");
+    const auto held = NewLink();
+
+    EXPECT_EQ(held->GetFileCount(FileDataType::ring), 600) << held->LastError();
+    EXPECT_EQ(held->GetFileCount(FileDataType::frame), 0);
+    EXPECT_EQ(held->GetFileCount(FileDataType::subWallpaper), 0) << "a folder that the handset does not have";
+    EXPECT_EQ(Fetch(599, FileDataType::ring), 1) << error;
+    EXPECT_EQ(Fetch(600, FileDataType::ring), 0);
+
+    EXPECT_THAT(FetchedNames(), ElementsAre("mobilefile.dbs", longName + "1599.mmf"));
+}
+
+TEST_F(Transfer, AFaultAnywhereLeavesNothingAndTheNextTransferWorks)
+{
+    struct Case {
+        const char* fault;
+        int sendResult;
+        int fetchResult;
+    };
+    constexpr Case kCases[] = {
+        {"silent", 0, 0},           {"dumb", 0, 0},
+        {"garbage", 0, 0},          {"connect:0:unplug", 0, 0},
+        {"connect:0:stall", 0, 0},  {"path:0:unplug", 0, 0},
+        {"path:0:0x41", 0, 0},      {"put:0:unplug", 0, 1},
+        {"put:30000:unplug", 0, 1}, {"put:30000:stall", 0, 1},
+        {"put:30000:0x60", -2, 1},  {"put:30000:0x4D", -2, 1},
+        {"put:30000:0x43", 0, 1},   {"list:0:0x61", 1, 0},
+        {"list:50:unplug", 1, 0},   {"get:0:0x44", 1, 0},
+        {"get:30000:unplug", 1, 0}, {"get:30000:stall", 1, 0},
+        {"split:1", 1, 1},          {"slow:9000000", 1, 1},
+    };
+    support::CTempFolder source;
+    const std::string bytes = Noise(60'000);
+    const std::string path = source.Make("new.jpg", bytes);
+    for (const Case& item : kCases) {
+        SCOPED_TRACE(item.fault);
+        support::WriteBytes(simulator.root.Path("My Album/a.jpg"), bytes);
+
+        simulator.SetFaults(item.fault);
+        EXPECT_EQ(Send(path), item.sendResult) << error;
+        EXPECT_EQ(error.empty(), item.sendResult == 1);
+        EXPECT_EQ(Fetch(0), item.fetchResult) << error;
+        EXPECT_EQ(FetchedNames().empty(), item.fetchResult != 1);
+        simulator.SetFaults("");
+
+        EXPECT_EQ(Send(path), 1) << error;
+        EXPECT_EQ(support::ReadBytes(simulator.root.Path("My Album/new.jpg")), bytes);
+        EXPECT_EQ(Fetch(0), 1) << error;
+        EXPECT_EQ(support::ReadBytes(folder.Path("a.jpg")), bytes);
+        for (const std::string& name : FetchedNames())
+            std::filesystem::remove(folder.Path(name));
+    }
+    EXPECT_EQ(support::ReadBytes(path), bytes);
+}
+
+TEST_F(Transfer, OneThatIsStoppedLeavesNothingAndTheNextWorks)
+{
+    support::CTempFolder source;
+    const std::string path = source.Make("a.jpg", Noise(200'000));
+    support::WriteBytes(simulator.root.Path("Ring/b.mmf"), Noise(200'000));
+    aborts = true;
+    EXPECT_EQ(Send(path), platform::kHandsetCancelled);
+    EXPECT_EQ(Fetch(0, FileDataType::ring), platform::kHandsetCancelled);
+    EXPECT_THAT(FetchedNames(), IsEmpty());
+    EXPECT_LT(*std::ranges::max_element(percentages), 100);
+    aborts = false;
+
+    EXPECT_EQ(Send(path), 1) << error;
+    EXPECT_EQ(Fetch(0, FileDataType::ring), 1) << error;
+}
+
+TEST_F(Transfer, AFileThatIsThereIsNeverReplaced)
+{
+    support::WriteBytes(simulator.root.Path("My Album/a.jpg"), "from the handset");
+    folder.Make("a.jpg", "mine");
+
+    EXPECT_EQ(Fetch(0), 1) << error;
+    EXPECT_EQ(Fetch(0), 1) << error;
+
+    EXPECT_THAT(FetchedNames(), ElementsAre("a (2).jpg", "a.jpg", "mobilefile.dbs"));
+    EXPECT_EQ(support::ReadBytes(folder.Path("a.jpg")), "mine");
+    EXPECT_EQ(support::ReadBytes(folder.Path("a (2).jpg")), "from the handset");
+    EXPECT_EQ(support::ReadBytes(records).size(), handset::kRecordSize);
+}
+
+TEST_F(Transfer, ADeletedFileIsTheOneOfTheRecordWhicheverFolderItIsIn)
+{
+    for (const char* name : {"My Album/a.jpg", "Main Wallpaper/a.jpg", "Ring/a.jpg"})
+        support::WriteBytes(simulator.root.Path(name), "x");
+    ASSERT_EQ(Fetch(0), 1) << error;
+    const int index = handset::FindHandsetIndex(records, "a.jpg");
+    const auto held = NewLink();
+
+    EXPECT_EQ(held->DeleteFileMobile(FileDataType::ring, index), 0);
+    simulator.SetFaults("delete:0:0x43");
+    EXPECT_EQ(held->DeleteFileMobile(FileDataType::mainWallpaper, index), 0);
+    simulator.SetFaults("");
+    EXPECT_EQ(held->DeleteFileMobile(FileDataType::mainWallpaper, 0), 0);
+    EXPECT_EQ(held->DeleteFileMobile(FileDataType::mainWallpaper, index), 1) << held->LastError();
+    EXPECT_EQ(held->DeleteFileMobile(FileDataType::mainWallpaper, index), 0);
+
+    EXPECT_FALSE(std::filesystem::exists(simulator.root.Path("My Album/a.jpg")));
+    EXPECT_TRUE(std::filesystem::exists(simulator.root.Path("Main Wallpaper/a.jpg")));
+    EXPECT_TRUE(std::filesystem::exists(simulator.root.Path("Ring/a.jpg")));
+}
+
+TEST_F(Transfer, APortWithoutALineFails)
+{
+    const auto link = library.NewUpDownLoad();
+
+    EXPECT_EQ(link->SetConnectPort(4), 0);
+    EXPECT_EQ(link->ATInit(), 0);
+    EXPECT_EQ(link->GetFileCount(FileDataType::ring), -1);
+    EXPECT_EQ(link->DeleteFileMobile(FileDataType::ring, 1), 0);
+}
+
+}  // namespace
