@@ -16,6 +16,8 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ui
 {
 
@@ -177,6 +179,10 @@ void CCameraDialog::OnEnded(const Outcome& outcome)
     where->SetPath(copy.Folder());
     text->setText(copy.Failure().empty() ? Text(StringId::cameraStopped, folder)
                                          : Text(StringId::cameraFailed, Shown(copy.Failure()), folder));
+    stop->SetImage({});
+    // The text may need more lines than the one before it.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
 
 }  // namespace ui

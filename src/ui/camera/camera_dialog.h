@@ -10,7 +10,6 @@
 #include "handset/camera_copy.h"
 
 #include <QDialog>
-#include <QPushButton>
 
 #include <condition_variable>
 #include <mutex>
@@ -23,6 +22,7 @@ class QProgressBar;
 namespace ui
 {
 
+class CButtonEx;
 class CPathLabel;
 
 class CCameraDialog : public QDialog, private handset::CCameraCopyHost
@@ -64,7 +64,7 @@ private:
     CPathLabel* where;
     QProgressBar* bar;
     QLabel* text;
-    QPushButton* stop;
+    CButtonEx* stop;
     bool isWorking = true;
     bool isClosing = false;
     handset::CCameraCopy copy;
