@@ -346,6 +346,8 @@ bool CPackageArchive::PrepareCompaction()
 {
     if (!IsOpen() || mode != Mode::read || index->Header() != HeaderState::whole)
         return Fail("no archive is open for reading");
+    if (newTexts.empty())
+        return Fail("nothing is to be changed");
     if (!ReadAll())
         return false;
     auto unlocked = Files().Open(archivePath, platform::OpenMode::read);

@@ -104,9 +104,9 @@ public:
     // found.
     bool SetName(std::size_t position, const std::string& name);
 
-    // Close with compaction in two parts, for an archive that was opened for reading. The first does the long
-    // work and lets go of the lock. The second fails when somebody has changed the archive in between; it
-    // closes the archive in any case.
+    // Close with compaction in two parts, for an archive that was opened for reading and given new names or
+    // texts. The first does the long work and lets go of the lock. The second fails when somebody has changed
+    // the archive in between; it closes the archive in any case.
     bool PrepareCompaction();
     bool CommitCompaction();
 
