@@ -55,6 +55,49 @@ Do you want to continue?</source>
    <source>A photo could not be copied: %1. The photos copied so far are in %2.</source>
    <translation type="unfinished">تعذر نسخ إحدى الصور: %1. الصور المنسوخة حتى الآن موجودة في %2.</translation>
   </message>
+  <message id="cameraStoppedNothing">
+   <source>Stopped. No photo was copied.</source>
+   <translation type="unfinished">تم الإيقاف. لم تُنسخ أي صورة.</translation>
+  </message>
+  <message id="cameraFailedNothing">
+   <source>No photo could be copied: %1.</source>
+   <translation type="unfinished">تعذر نسخ أي صورة: %1.</translation>
+  </message>
+  <message id="cameraGone">
+   <source>The camera is no longer there. The photos copied so far are in %1.</source>
+   <translation type="unfinished">لم تعد الكاميرا موجودة. الصور المنسوخة حتى الآن موجودة في %1.</translation>
+  </message>
+  <message id="cameraGoneNothing">
+   <source>The camera is no longer there. No photo was copied.</source>
+   <translation type="unfinished">لم تعد الكاميرا موجودة. لم تُنسخ أي صورة.</translation>
+  </message>
+  <message id="cameraFull">
+   <source>The disk is full. The photos copied so far are in %1.</source>
+   <translation type="unfinished">القرص ممتلئ. الصور المنسوخة حتى الآن موجودة في %1.</translation>
+  </message>
+  <message id="cameraFullNothing">
+   <source>The disk is full. No photo was copied to %1.</source>
+   <translation type="unfinished">القرص ممتلئ. لم تُنسخ أي صورة إلى %1.</translation>
+  </message>
+  <message id="cameraNoFolder">
+   <source>The folder %1 could not be made: %2.</source>
+   <translation type="unfinished">تعذر إنشاء المجلد %1: %2.</translation>
+  </message>
+  <message id="cameraNoPlace">
+   <source>There is no folder that could receive the photos.</source>
+   <translation type="unfinished">لا يوجد مجلد يمكن أن يستقبل الصور.</translation>
+  </message>
+  <message id="cameraLeftOut" numerus="yes">
+   <source>%1 files of the camera could not be read and were left out.</source>
+   <translation type="unfinished">
+    <numerusform>لم يُترك أي ملف.</numerusform>
+    <numerusform>تعذرت قراءة ملف واحد من الكاميرا وتُرك.</numerusform>
+    <numerusform>تعذرت قراءة ملفين من الكاميرا وتُركا.</numerusform>
+    <numerusform>تعذرت قراءة %1 ملفات من الكاميرا وتُركت.</numerusform>
+    <numerusform>تعذرت قراءة %1 ملفًا من الكاميرا وتُركت.</numerusform>
+    <numerusform>تعذرت قراءة %1 ملف من الكاميرا وتُركت.</numerusform>
+   </translation>
+  </message>
   <message id="cameraKept">
    <source>Some photos could not be deleted from the camera.</source>
    <translation type="unfinished">تعذر حذف بعض الصور من الكاميرا.</translation>
@@ -1442,6 +1485,60 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
   <message id="kindSearchResult">
    <source>Search result</source>
    <translation type="unfinished">نتيجة بحث</translation>
+  </message>
+  <message id="noticeBar">
+   <source>Notice</source>
+   <translation type="unfinished">إشعار</translation>
+  </message>
+  <message id="noticePhotos" numerus="yes">
+   <source>A card with %1 photos is here.</source>
+   <translation type="unfinished">
+    <numerusform>لا توجد صور في البطاقة.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها صورة واحدة.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها صورتان.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها %1 صور.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها %1 صورة.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها %1 صورة.</numerusform>
+   </translation>
+  </message>
+  <message id="noticeClips" numerus="yes">
+   <source>A card with %1 video clips is here.</source>
+   <translation type="unfinished">
+    <numerusform>لا توجد مقاطع في البطاقة.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها مقطع فيديو واحد.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها مقطعا فيديو.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها %1 مقاطع فيديو.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها %1 مقطع فيديو.</numerusform>
+    <numerusform>توجد هنا بطاقة فيها %1 مقطع فيديو.</numerusform>
+   </translation>
+  </message>
+  <message id="noticeBoth">
+   <source>A card with %1 photos and video clips is here.</source>
+   <translation type="unfinished">توجد هنا بطاقة تحتوي على صور ومقاطع فيديو، وعددها %1.</translation>
+  </message>
+  <message id="noticeMany">
+   <source>A card with more than %1 photos is here.</source>
+   <translation type="unfinished">توجد هنا بطاقة فيها أكثر من %1 صورة.</translation>
+  </message>
+  <message id="noticePhone">
+   <source>A phone may be connected at %1.</source>
+   <translation type="unfinished">قد يكون هناك هاتف متصل عند %1.</translation>
+  </message>
+  <message id="noticeCopy">
+   <source>Copy Photos...</source>
+   <translation type="unfinished">نسخ الصور...</translation>
+  </message>
+  <message id="noticeGet">
+   <source>Get Files From the Phone...</source>
+   <translation type="unfinished">جلب الملفات من الهاتف...</translation>
+  </message>
+  <message id="noticeSend">
+   <source>Send Selection to the Phone...</source>
+   <translation type="unfinished">إرسال المحدد إلى الهاتف...</translation>
+  </message>
+  <message id="noticeClose">
+   <source>Close Notice</source>
+   <translation type="unfinished">إغلاق الإشعار</translation>
   </message>
   <message id="tabDevice">
    <source>Device</source>

@@ -55,6 +55,45 @@ Möchten Sie fortfahren?</translation>
    <source>A photo could not be copied: %1. The photos copied so far are in %2.</source>
    <translation type="unfinished">Ein Foto konnte nicht kopiert werden: %1. Die bisher kopierten Fotos liegen in %2.</translation>
   </message>
+  <message id="cameraStoppedNothing">
+   <source>Stopped. No photo was copied.</source>
+   <translation type="unfinished">Angehalten. Es wurde kein Foto kopiert.</translation>
+  </message>
+  <message id="cameraFailedNothing">
+   <source>No photo could be copied: %1.</source>
+   <translation type="unfinished">Kein Foto konnte kopiert werden: %1.</translation>
+  </message>
+  <message id="cameraGone">
+   <source>The camera is no longer there. The photos copied so far are in %1.</source>
+   <translation type="unfinished">Die Kamera ist nicht mehr da. Die bisher kopierten Fotos sind in %1.</translation>
+  </message>
+  <message id="cameraGoneNothing">
+   <source>The camera is no longer there. No photo was copied.</source>
+   <translation type="unfinished">Die Kamera ist nicht mehr da. Es wurde kein Foto kopiert.</translation>
+  </message>
+  <message id="cameraFull">
+   <source>The disk is full. The photos copied so far are in %1.</source>
+   <translation type="unfinished">Der Datenträger ist voll. Die bisher kopierten Fotos sind in %1.</translation>
+  </message>
+  <message id="cameraFullNothing">
+   <source>The disk is full. No photo was copied to %1.</source>
+   <translation type="unfinished">Der Datenträger ist voll. Es wurde kein Foto nach %1 kopiert.</translation>
+  </message>
+  <message id="cameraNoFolder">
+   <source>The folder %1 could not be made: %2.</source>
+   <translation type="unfinished">Der Ordner %1 konnte nicht angelegt werden: %2.</translation>
+  </message>
+  <message id="cameraNoPlace">
+   <source>There is no folder that could receive the photos.</source>
+   <translation type="unfinished">Es gibt keinen Ordner, der die Fotos aufnehmen könnte.</translation>
+  </message>
+  <message id="cameraLeftOut" numerus="yes">
+   <source>%1 files of the camera could not be read and were left out.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei der Kamera war nicht lesbar und wurde ausgelassen.</numerusform>
+    <numerusform>%1 Dateien der Kamera waren nicht lesbar und wurden ausgelassen.</numerusform>
+   </translation>
+  </message>
   <message id="cameraKept">
    <source>Some photos could not be deleted from the camera.</source>
    <translation type="unfinished">Einige Fotos konnten nicht von der Kamera gelöscht werden.</translation>
@@ -1330,6 +1369,52 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
   <message id="kindSearchResult">
    <source>Search result</source>
    <translation type="unfinished">Suchergebnis</translation>
+  </message>
+  <message id="noticeBar">
+   <source>Notice</source>
+   <translation type="unfinished">Hinweis</translation>
+  </message>
+  <message id="noticePhotos" numerus="yes">
+   <source>A card with %1 photos is here.</source>
+   <translation type="unfinished">
+    <numerusform>Eine Karte mit %1 Foto ist da.</numerusform>
+    <numerusform>Eine Karte mit %1 Fotos ist da.</numerusform>
+   </translation>
+  </message>
+  <message id="noticeClips" numerus="yes">
+   <source>A card with %1 video clips is here.</source>
+   <translation type="unfinished">
+    <numerusform>Eine Karte mit %1 Videoclip ist da.</numerusform>
+    <numerusform>Eine Karte mit %1 Videoclips ist da.</numerusform>
+   </translation>
+  </message>
+  <message id="noticeBoth">
+   <source>A card with %1 photos and video clips is here.</source>
+   <translation type="unfinished">Eine Karte mit %1 Fotos und Videoclips ist da.</translation>
+  </message>
+  <message id="noticeMany">
+   <source>A card with more than %1 photos is here.</source>
+   <translation type="unfinished">Eine Karte mit mehr als %1 Fotos ist da.</translation>
+  </message>
+  <message id="noticePhone">
+   <source>A phone may be connected at %1.</source>
+   <translation type="unfinished">An %1 ist vielleicht ein Telefon angeschlossen.</translation>
+  </message>
+  <message id="noticeCopy">
+   <source>Copy Photos...</source>
+   <translation type="unfinished">Fotos kopieren …</translation>
+  </message>
+  <message id="noticeGet">
+   <source>Get Files From the Phone...</source>
+   <translation type="unfinished">Dateien vom Telefon holen …</translation>
+  </message>
+  <message id="noticeSend">
+   <source>Send Selection to the Phone...</source>
+   <translation type="unfinished">Auswahl an das Telefon senden …</translation>
+  </message>
+  <message id="noticeClose">
+   <source>Close Notice</source>
+   <translation type="unfinished">Hinweis schließen</translation>
   </message>
   <message id="tabDevice">
    <source>Device</source>
