@@ -7,8 +7,10 @@
 #include "platform/file_system.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
+#include "platform/utility.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace app
 {
@@ -80,6 +82,16 @@ bool KeepPort(const std::string& programFolder, const std::vector<PortEntry>& po
     const PortEntry& entry = ports[static_cast<std::size_t>(position)];
     return !entry.proposed || Os().profiles->WritePrivateProfileString("Map", std::to_string(position + 1),
                                                                        entry.device, PortFile(programFolder));
+}
+
+std::string DeviceOfPort(unsigned port)
+{
+    if (const char* named = std::getenv(("KELVO_PORT_" + std::to_string(port)).c_str()); named && *named)
+        return named;
+    if (port < 1 || port > kMostPorts)
+        return {};
+    const auto lines = Os().serialPorts ? Os().serialPorts->Ports() : std::vector<SerialPort>();
+    return ListPorts(Os().utility->ql_GetModulePath(), lines)[port - 1].device;
 }
 
 }  // namespace app

@@ -30,5 +30,8 @@ std::vector<PortEntry> ListPorts(const std::string& programFolder,
                                  const std::vector<platform::SerialPort>& lines);
 // Writes a proposed port's device down; true as well for ports that need nothing written.
 bool KeepPort(const std::string& programFolder, const std::vector<PortEntry>& ports, int position);
+// The device at a port number, empty for none: the one that the environment names in KELVO_PORT_n, else as
+// listed for the lines that are there now. Any thread.
+std::string DeviceOfPort(unsigned port);
 
 }  // namespace app

@@ -206,6 +206,12 @@ TEST_F(FrameCommands, APortNumberLeadsToItsMappedDeviceElseToItsLineAndAdaptersT
     EXPECT_THAT(services.profiles.written, IsEmpty());
     EXPECT_TRUE(app::KeepPort(folder, ports, 2));
     EXPECT_THAT(services.profiles.written, ElementsAre("Map/3=/dev/ttyACM0"));
+
+    setenv("KELVO_PORT_1", "/dev/pts/9", 1);
+    EXPECT_EQ(app::DeviceOfPort(1), "/dev/pts/9");
+    unsetenv("KELVO_PORT_1");
+    EXPECT_EQ(app::DeviceOfPort(1), "/dev/serial/by-id/cable");
+    EXPECT_EQ(app::DeviceOfPort(0) + app::DeviceOfPort(255) + app::DeviceOfPort(256), "");
 }
 
 TEST_F(FrameCommands, SourcesOfTheOtherKindAreSkippedAndTheChosenOneComesFirstNextTime)

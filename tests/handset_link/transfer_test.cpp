@@ -6,9 +6,12 @@
 #include "suite/handset/handset_library.h"
 #include "support/services_guard.h"
 
-#include <QCoreApplication>
-
 #include <gmock/gmock.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <thread>
 
 namespace
 {
@@ -36,11 +39,14 @@ class Transfer : public testing::Test
 {
 protected:
     Transfer()
-        : application(argc, nullptr), guard(platform::Services{}),
+        : guard(platform::Services{}),
           patient({[this](unsigned port) { return port == 3 ? simulator.Port() : ""; },
                    handset::AddHandsetRecord, suite::LinePatience{.settling = 20}}),
           impatient({patient.Host().deviceOfPort, handset::AddHandsetRecord, kImpatience})
     {
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+            ADD_FAILURE() << text.toStdString();
+        });
         services.Install();
         platform::Os().handset = &patient;
         percentages.clear();
@@ -86,8 +92,6 @@ protected:
         return names;
     }
 
-    int argc = 0;
-    QCoreApplication application;
     CSimulator simulator;
     support::CTempFolder folder;
     support::CServicesGuard guard;
@@ -131,13 +135,15 @@ TEST_F(Transfer, SixHundredFilesWithLongNamesAreCountedAndFetched)
     const std::string longName(190, 'n');
     for (int i = 0; i < 600; ++i)
         support::WriteBytes(simulator.root.Path("Ring/" + longName + std::to_string(1000 + i) + ".mmf"), "x");
-    const auto held = NewLink();
 
-    EXPECT_EQ(held->GetFileCount(FileDataType::ring), 600) << held->LastError();
-    EXPECT_EQ(held->GetFileCount(FileDataType::frame), 0);
-    EXPECT_EQ(held->GetFileCount(FileDataType::subWallpaper), 0) << "a folder that the handset does not have";
-    EXPECT_EQ(Fetch(599, FileDataType::ring), 1) << error;
-    EXPECT_EQ(Fetch(600, FileDataType::ring), 0);
+    std::thread([this] {
+        const auto held = NewLink();
+        EXPECT_EQ(held->GetFileCount(FileDataType::ring), 600) << held->LastError();
+        EXPECT_EQ(held->GetFileCount(FileDataType::frame), 0);
+        EXPECT_EQ(held->GetFileCount(FileDataType::subWallpaper), 0) << "a folder that it does not have";
+        EXPECT_EQ(Fetch(599, FileDataType::ring), 1) << error;
+        EXPECT_EQ(Fetch(600, FileDataType::ring), 0);
+    }).join();
 
     EXPECT_THAT(FetchedNames(), ElementsAre("mobilefile.dbs", longName + "1599.mmf"));
 }
@@ -258,6 +264,33 @@ TEST_F(Transfer, APortWithoutALineFails)
     EXPECT_EQ(link->ATInit(), 0);
     EXPECT_EQ(link->GetFileCount(FileDataType::ring), -1);
     EXPECT_EQ(link->DeleteFileMobile(FileDataType::ring, 1), 0);
+    EXPECT_EQ(link->LastError(), "no line is known for port 4");
+}
+
+TEST_F(Transfer, ALineThatCannotBeHadSaysWhichItIsAndWhatToDo)
+{
+    const std::string device = std::filesystem::canonical(simulator.Port()).string();
+    suite::CHandsetLibrary direct({[&](unsigned) { return device; }, handset::AddHandsetRecord, {}});
+    const auto link = direct.NewUpDownLoad();
+    link->SetConnectPort(1);
+    const int other = open(device.c_str(), O_RDWR | O_NOCTTY);
+    ASSERT_EQ(flock(other, LOCK_EX), 0);
+
+    EXPECT_EQ(link->ATInit(), 0);
+    EXPECT_EQ(link->LastError(),
+              device + ": Device or resource busy (another program uses it; ModemManager may)");
+    close(other);
+    EXPECT_EQ(link->ATInit(), 1) << link->LastError();
+
+    const auto later = direct.NewUpDownLoad();
+    later->SetConnectPort(2);
+    std::filesystem::permissions(device, {});
+    const bool isRoot = geteuid() == 0;  // whom no permission keeps out
+    ASSERT_EQ(isRoot ? setresuid(65534, 65534, 0) : 0, 0);
+    EXPECT_EQ(later->ATInit(), 0);
+    ASSERT_EQ(isRoot ? setresuid(0, 0, 0) : 0, 0);
+    EXPECT_EQ(later->LastError(),
+              device + ": Permission denied (users of serial lines belong to the group dialout)");
 }
 
 }  // namespace

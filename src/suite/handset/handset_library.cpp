@@ -7,6 +7,8 @@
 
 #include "platform/file_system.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <span>
 
@@ -95,7 +97,9 @@ public:
     std::string Model() override { return session ? session->Model() : ""; }
     std::string LastError() override
     {
-        return session ? session->Error() : "no device is known for the port";
+        return session     ? session->Error()
+               : port == 0 ? "no port is chosen"
+                           : fmt::format("no line is known for port {}", port);
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <QSerialPort>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace suite
@@ -21,10 +22,10 @@ public:
 
     // Opens the device that the path leads to and takes it for this process alone.
     bool Open(const std::string& device);
-    void Close() { port.close(); }
-    bool IsOpen() const { return port.isOpen(); }
+    void Close() { port.reset(); }
+    bool IsOpen() const { return port && port->isOpen(); }
     // Drops what has come in and not been read.
-    void Clear() { port.clear(); }
+    void Clear() { port->clear(); }
 
     // Writes all bytes. False when the line is gone, when none could be written for `idleMilliseconds`, or
     // when `stop` says so.
@@ -37,7 +38,7 @@ public:
 private:
     bool Fail();
 
-    QSerialPort port;
+    std::optional<QSerialPort> port;  // belongs to the thread that opened it
     std::string path;
     std::string error;
 };

@@ -3,6 +3,8 @@
 // The program with the window.
 #include "app/data_folders.h"
 #include "app/kelvo_app.h"
+#include "app/port_list.h"
+#include "handset/record_file.h"
 #include "platform/services.h"
 #include "platform_linux/desktop/linux_devices.h"
 #include "platform_linux/desktop/linux_messages.h"
@@ -11,6 +13,7 @@
 #include "platform_linux/services.h"
 #include "suite/acquire/sane_sources.h"
 #include "suite/camera/msd_module.h"
+#include "suite/handset/handset_library.h"
 #include "suite/image/image_library.h"
 #include "suite/utility/utility_library.h"
 #include "ui/command_line.h"
@@ -132,11 +135,9 @@ int RunInstance(Program& program)
     };
     platform_linux::CLinuxDevices devices;
     platform_linux::CLinuxScreen screen;
-    platform_linux::CLinuxSerialPorts serialPorts;
     suite::CSaneSources sources;
     platform::Os().devices = &devices;
     platform::Os().screen = &screen;
-    platform::Os().serialPorts = &serialPorts;
     platform::Os().pictureSources = &sources;
     const int status = RunWindow(program);
     // What they were asked on other threads is waited for.
@@ -172,6 +173,10 @@ int main(int argc, char** argv)
     platform::Os().images = &images;
     suite::CMountedStore camera;
     platform::Os().cameraStore = &camera;
+    platform_linux::CLinuxSerialPorts serialPorts;
+    platform::Os().serialPorts = &serialPorts;
+    suite::CHandsetLibrary handset({app::DeviceOfPort, handset::AddHandsetRecord, {}});
+    platform::Os().handset = &handset;
 
     Program program;
     std::error_code noFolder;
