@@ -1199,8 +1199,8 @@ Do you want to continue?</source>
    <translation type="unfinished">محررات الصور ليست جزءًا من هذا الإصدار بعد</translation>
   </message>
   <message id="missingHandset">
-   <source>Exchange with the handset is not part of this version yet</source>
-   <translation type="unfinished">التبادل مع الهاتف ليس جزءًا من هذا الإصدار بعد</translation>
+   <source>Messages of the handset are not part of this version yet</source>
+   <translation type="unfinished">رسائل الهاتف ليست جزءًا من هذا الإصدار بعد</translation>
   </message>
   <message id="missingScanner">
    <source>Taking pictures from a scanner is not part of this version yet</source>
@@ -1322,9 +1322,344 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <source>There are no pictures here to show.</source>
    <translation type="unfinished">لا توجد هنا صور لعرضها.</translation>
   </message>
+  <message id="handsetNoHandset">
+   <source>Fail to Communicate with Mobile Handset.</source>
+   <translation type="unfinished">تعذّر الاتصال بالهاتف.</translation>
+  </message>
+  <message id="handsetNoSpace">
+   <source>The storge space in not enough.</source>
+   <translation type="unfinished">مساحة التخزين غير كافية.</translation>
+  </message>
+  <message id="handsetTransferFailed">
+   <source>Upload failed .</source>
+   <translation type="unfinished">فشل النقل.</translation>
+  </message>
+  <message id="handsetNoItem">
+   <source>There is no item in Mobile handset.</source>
+   <translation type="unfinished">لا يوجد شيء على الهاتف.</translation>
+  </message>
+  <message id="handsetBadDescriptor">
+   <source>JAD file format is incorrect, cannot upload.</source>
+   <translation type="unfinished">صيغة ملف JAD غير صحيحة، لا يمكن نقله.</translation>
+  </message>
+  <message id="handsetSuccessful">
+   <source>Transfer Successfully.</source>
+   <translation type="unfinished">تم النقل بنجاح.</translation>
+  </message>
+  <message id="handsetCancelled">
+   <source>Transfer Cancel.</source>
+   <translation type="unfinished">أُلغي النقل.</translation>
+  </message>
+  <message id="handsetCounter">
+   <source>%1 / %2</source>
+   <translation type="unfinished">%1 / %2</translation>
+  </message>
+  <message id="handsetMainWallpaper">
+   <source>Main Wallpaper</source>
+   <translation type="unfinished">الخلفية الرئيسية</translation>
+  </message>
+  <message id="handsetSubWallpaper">
+   <source>Sub Wallpaper</source>
+   <translation type="unfinished">الخلفية الثانوية</translation>
+  </message>
+  <message id="handsetMyAlbum">
+   <source>My Album</source>
+   <translation type="unfinished">ألبومي</translation>
+  </message>
+  <message id="handsetFrame">
+   <source>Frame</source>
+   <translation type="unfinished">إطارات</translation>
+  </message>
+  <message id="handsetRing">
+   <source>Ring</source>
+   <translation type="unfinished">نغمات</translation>
+  </message>
+  <message id="handsetAnimation">
+   <source>Animation</source>
+   <translation type="unfinished">رسوم متحركة</translation>
+  </message>
+  <message id="handsetJava">
+   <source>Java</source>
+   <translation type="unfinished">Java</translation>
+  </message>
+  <message id="handsetStart">
+   <source>&amp;Start</source>
+   <translation type="unfinished">ا&amp;بدأ</translation>
+  </message>
+  <message id="handsetStop">
+   <source>S&amp;top</source>
+   <translation type="unfinished">&amp;أوقف</translation>
+  </message>
+  <message id="handsetClose">
+   <source>&amp;Close</source>
+   <translation type="unfinished">أ&amp;غلق</translation>
+  </message>
+  <message id="handsetLooking">
+   <source>Looking for the handset…</source>
+   <translation type="unfinished">جارٍ البحث عن الهاتف…</translation>
+  </message>
+  <message id="handsetReadyModel">
+   <source>%1 is connected.</source>
+   <translation type="unfinished">%1 متصل.</translation>
+  </message>
+  <message id="handsetReady">
+   <source>The handset is connected.</source>
+   <translation type="unfinished">الهاتف متصل.</translation>
+  </message>
+  <message id="handsetStopping">
+   <source>Stopping…</source>
+   <translation type="unfinished">جارٍ الإيقاف…</translation>
+  </message>
+  <message id="handsetProgressFile">
+   <source>Progress of this file</source>
+   <translation type="unfinished">تقدّم هذا الملف</translation>
+  </message>
+  <message id="handsetProgressAll">
+   <source>Progress in all</source>
+   <translation type="unfinished">التقدّم الكلي</translation>
+  </message>
+  <message id="handsetBusy">
+   <source>Another program or window is already talking to a handset.</source>
+   <translation type="unfinished">برنامج آخر أو نافذة أخرى تتصل بهاتف الآن.</translation>
+  </message>
+  <message id="handsetSendTitle">
+   <source>Download to Mobile</source>
+   <translation type="unfinished">نقل إلى الهاتف</translation>
+  </message>
+  <message id="handsetNothingSelected">
+   <source>Select the files for the handset first.</source>
+   <translation type="unfinished">حدّد أولًا الملفات المراد نقلها إلى الهاتف.</translation>
+  </message>
+  <message id="handsetTable">
+   <source>Files for the handset</source>
+   <translation type="unfinished">ملفات للهاتف</translation>
+  </message>
+  <message id="handsetFile">
+   <source>File</source>
+   <translation type="unfinished">الملف</translation>
+  </message>
+  <message id="handsetSentAs">
+   <source>Arrives As</source>
+   <translation type="unfinished">يصل باسم</translation>
+  </message>
+  <message id="handsetPlace">
+   <source>In</source>
+   <translation type="unfinished">في</translation>
+  </message>
+  <message id="handsetSize">
+   <source>Size</source>
+   <translation type="unfinished">الحجم</translation>
+  </message>
+  <message id="handsetNote">
+   <source>Note</source>
+   <translation type="unfinished">ملاحظة</translation>
+  </message>
+  <message id="handsetPlanning" numerus="yes">
+   <source>Looking at %1 files…</source>
+   <translation type="unfinished">
+    <numerusform>لا ملفات للفحص</numerusform>
+    <numerusform>جارٍ فحص ملف واحد…</numerusform>
+    <numerusform>جارٍ فحص ملفين…</numerusform>
+    <numerusform>جارٍ فحص %1 ملفات…</numerusform>
+    <numerusform>جارٍ فحص %1 ملفًا…</numerusform>
+    <numerusform>جارٍ فحص %1 ملف…</numerusform>
+   </translation>
+  </message>
+  <message id="handsetToSend" numerus="yes">
+   <source>%1 files are ready to be sent.</source>
+   <translation type="unfinished">
+    <numerusform>لا ملفات جاهزة للنقل.</numerusform>
+    <numerusform>ملف واحد جاهز للنقل.</numerusform>
+    <numerusform>ملفان جاهزان للنقل.</numerusform>
+    <numerusform>%1 ملفات جاهزة للنقل.</numerusform>
+    <numerusform>%1 ملفًا جاهزًا للنقل.</numerusform>
+    <numerusform>%1 ملف جاهز للنقل.</numerusform>
+   </translation>
+  </message>
+  <message id="handsetNoneToSend">
+   <source>None of these files can be sent.</source>
+   <translation type="unfinished">لا يمكن نقل أيٍّ من هذه الملفات.</translation>
+  </message>
+  <message id="handsetInAll">
+   <source>%1 in all</source>
+   <translation type="unfinished">المجموع %1</translation>
+  </message>
+  <message id="handsetSending">
+   <source>Sending %1</source>
+   <translation type="unfinished">جارٍ نقل %1</translation>
+  </message>
+  <message id="handsetSent" numerus="yes">
+   <source>%1 files are on the handset now.</source>
+   <translation type="unfinished">
+    <numerusform>لم يُنقل أي ملف.</numerusform>
+    <numerusform>ملف واحد على الهاتف الآن.</numerusform>
+    <numerusform>ملفان على الهاتف الآن.</numerusform>
+    <numerusform>%1 ملفات على الهاتف الآن.</numerusform>
+    <numerusform>%1 ملفًا على الهاتف الآن.</numerusform>
+    <numerusform>%1 ملف على الهاتف الآن.</numerusform>
+   </translation>
+  </message>
+  <message id="handsetWaiting">
+   <source>Looking at it…</source>
+   <translation type="unfinished">جارٍ الفحص…</translation>
+  </message>
+  <message id="handsetUnchanged">
+   <source>As it is</source>
+   <translation type="unfinished">كما هو</translation>
+  </message>
+  <message id="handsetFitted">
+   <source>Fitted to the handset's screen, %1 × %2</source>
+   <translation type="unfinished">بحجم شاشة الهاتف، %1 × %2</translation>
+  </message>
+  <message id="handsetAsJpeg">
+   <source>As a JPEG picture</source>
+   <translation type="unfinished">كصورة JPEG</translation>
+  </message>
+  <message id="handsetAsSmaf">
+   <source>As a SMAF ring tone</source>
+   <translation type="unfinished">كنغمة SMAF</translation>
+  </message>
+  <message id="handsetWithArchive">
+   <source>With its program, %1</source>
+   <translation type="unfinished">مع برنامجه %1</translation>
+  </message>
+  <message id="handsetTuneKept">
+   <source>As MIDI, since it cannot be converted: %1</source>
+   <translation type="unfinished">كملف MIDI، لتعذّر تحويله: %1</translation>
+  </message>
+  <message id="handsetOtherKind">
+   <source>As it is; the handset may not know what to do with it</source>
+   <translation type="unfinished">كما هو؛ قد لا يعرف الهاتف ما يفعل به</translation>
+  </message>
+  <message id="handsetTooLong">
+   <source>Too long: the handset takes ring tones of up to %1 bytes</source>
+   <translation type="unfinished">طويل جدًا: يقبل الهاتف نغمات حتى %1 بايت</translation>
+  </message>
+  <message id="handsetDescriptorBad">
+   <source>Its JAD file is incorrect and ends the transfer</source>
+   <translation type="unfinished">ملف JAD غير صحيح وينهي النقل</translation>
+  </message>
+  <message id="handsetArchiveMissing">
+   <source>%1 is missing, which ends the transfer</source>
+   <translation type="unfinished">الملف %1 مفقود، وهذا ينهي النقل</translation>
+  </message>
+  <message id="handsetNotPrepared">
+   <source>Cannot be made ready: %1</source>
+   <translation type="unfinished">تعذّر تجهيزه: %1</translation>
+  </message>
+  <message id="handsetNotAFile">
+   <source>Is no file</source>
+   <translation type="unfinished">ليس ملفًا</translation>
+  </message>
+  <message id="handsetGone">
+   <source>Is not there any more</source>
+   <translation type="unfinished">لم يعد موجودًا</translation>
+  </message>
+  <message id="handsetIsSent">
+   <source>Sent</source>
+   <translation type="unfinished">نُقل</translation>
+  </message>
+  <message id="handsetIsNotSent">
+   <source>Not sent</source>
+   <translation type="unfinished">لم يُنقل</translation>
+  </message>
+  <message id="handsetUnderWay">
+   <source>Being sent</source>
+   <translation type="unfinished">جارٍ النقل</translation>
+  </message>
+  <message id="handsetFetchTitle">
+   <source>Upload to PC</source>
+   <translation type="unfinished">نقل إلى الحاسوب</translation>
+  </message>
+  <message id="handsetFetchPhotos">
+   <source>Copy from the handset</source>
+   <translation type="unfinished">النسخ من الهاتف</translation>
+  </message>
+  <message id="handsetFetchRings">
+   <source>Ring tones of the handset</source>
+   <translation type="unfinished">نغمات الهاتف</translation>
+  </message>
+  <message id="handsetFetchAnimations">
+   <source>Animations of the handset</source>
+   <translation type="unfinished">رسوم الهاتف المتحركة</translation>
+  </message>
+  <message id="handsetInto">
+   <source>Into %1</source>
+   <translation type="unfinished">إلى %1</translation>
+  </message>
+  <message id="handsetChoose">
+   <source>Tick what to copy.</source>
+   <translation type="unfinished">حدّد ما تريد نسخه.</translation>
+  </message>
+  <message id="handsetCounting">
+   <source>Counting…</source>
+   <translation type="unfinished">جارٍ العدّ…</translation>
+  </message>
+  <message id="handsetFetching">
+   <source>Copying from %1</source>
+   <translation type="unfinished">جارٍ النسخ من %1</translation>
+  </message>
+  <message id="handsetFetched" numerus="yes">
+   <source>%1 files were copied from the handset.</source>
+   <translation type="unfinished">
+    <numerusform>لم يُنسخ أي ملف من الهاتف.</numerusform>
+    <numerusform>نُسخ ملف واحد من الهاتف.</numerusform>
+    <numerusform>نُسخ ملفان من الهاتف.</numerusform>
+    <numerusform>نُسخت %1 ملفات من الهاتف.</numerusform>
+    <numerusform>نُسخ %1 ملفًا من الهاتف.</numerusform>
+    <numerusform>نُسخ %1 ملف من الهاتف.</numerusform>
+   </translation>
+  </message>
+  <message id="handsetKeptFiles">
+   <source>What has arrived is in %1.</source>
+   <translation type="unfinished">ما وصل موجود في %1.</translation>
+  </message>
+  <message id="handsetNotListed">
+   <source>%1 could not be read: %2</source>
+   <translation type="unfinished">تعذّرت قراءة %1: %2</translation>
+  </message>
+  <message id="handsetNoFolder">
+   <source>Choose a folder to copy into first.</source>
+   <translation type="unfinished">اختر أولًا مجلدًا للنسخ إليه.</translation>
+  </message>
+  <message id="commandUploadRings">
+   <source>Upload Ring Tones to PC</source>
+   <translation type="unfinished">نقل النغمات إلى الحاسوب</translation>
+  </message>
+  <message id="commandUploadAnimations">
+   <source>Upload Animations to PC</source>
+   <translation type="unfinished">نقل الرسوم المتحركة إلى الحاسوب</translation>
+  </message>
+  <message id="handsetDeleteToo">
+   <source>Remove from Mobile Handset too?</source>
+   <translation type="unfinished">هل يُحذف من الهاتف أيضًا؟</translation>
+  </message>
+  <message id="handsetDeleteAsk" numerus="yes">
+   <source>Delete these %1 files?</source>
+   <translation type="unfinished">
+    <numerusform>لا ملفات للحذف.</numerusform>
+    <numerusform>هل تحذف هذا الملف؟</numerusform>
+    <numerusform>هل تحذف هذين الملفين؟</numerusform>
+    <numerusform>هل تحذف هذه الملفات (%1)؟</numerusform>
+    <numerusform>هل تحذف هذه الملفات (%1)؟</numerusform>
+    <numerusform>هل تحذف هذه الملفات (%1)؟</numerusform>
+   </translation>
+  </message>
+  <message id="handsetDeleteWhy">
+   <source>They came from the handset. On this computer they go to the trash.</source>
+   <translation type="unfinished">جاءت من الهاتف. على هذا الحاسوب تُنقل إلى سلة المهملات.</translation>
+  </message>
+  <message id="handsetDeleteWhyForGood">
+   <source>They came from the handset. On this computer they are gone for good.</source>
+   <translation type="unfinished">جاءت من الهاتف. على هذا الحاسوب تُحذف نهائيًا.</translation>
+  </message>
+  <message id="handsetDeleting">
+   <source>Removing from the handset</source>
+   <translation type="unfinished">جارٍ الحذف من الهاتف</translation>
+  </message>
   <message id="handsetDeleteFailed">
    <source>Can not delete default "Photo" or "Ring".</source>
-   <translation type="unfinished">لا يمكن حذف "الصور" أو "النغمات" الافتراضية.</translation>
+   <translation type="unfinished">لا يمكن حذف عناصر «صورة» أو «نغمة» الافتراضية.</translation>
   </message>
   <message id="infoTitle">
    <source>Information on %1</source>

@@ -1083,8 +1083,8 @@ Möchten Sie fortfahren?</translation>
    <translation type="unfinished">Die Bildbearbeitung gehört noch nicht zu dieser Version</translation>
   </message>
   <message id="missingHandset">
-   <source>Exchange with the handset is not part of this version yet</source>
-   <translation type="unfinished">Der Austausch mit dem Handy gehört noch nicht zu dieser Version</translation>
+   <source>Messages of the handset are not part of this version yet</source>
+   <translation type="unfinished">Nachrichten des Handys gehören noch nicht zu dieser Version</translation>
   </message>
   <message id="missingScanner">
    <source>Taking pictures from a scanner is not part of this version yet</source>
@@ -1206,9 +1206,324 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <source>There are no pictures here to show.</source>
    <translation type="unfinished">Hier gibt es keine Bilder, die gezeigt werden könnten.</translation>
   </message>
+  <message id="handsetNoHandset">
+   <source>Fail to Communicate with Mobile Handset.</source>
+   <translation type="unfinished">Keine Verbindung zum Handy.</translation>
+  </message>
+  <message id="handsetNoSpace">
+   <source>The storge space in not enough.</source>
+   <translation type="unfinished">Der Speicherplatz reicht nicht aus.</translation>
+  </message>
+  <message id="handsetTransferFailed">
+   <source>Upload failed .</source>
+   <translation type="unfinished">Übertragung fehlgeschlagen.</translation>
+  </message>
+  <message id="handsetNoItem">
+   <source>There is no item in Mobile handset.</source>
+   <translation type="unfinished">Auf dem Handy ist nichts vorhanden.</translation>
+  </message>
+  <message id="handsetBadDescriptor">
+   <source>JAD file format is incorrect, cannot upload.</source>
+   <translation type="unfinished">Das Format der JAD-Datei ist falsch, sie kann nicht übertragen werden.</translation>
+  </message>
+  <message id="handsetSuccessful">
+   <source>Transfer Successfully.</source>
+   <translation type="unfinished">Übertragung erfolgreich.</translation>
+  </message>
+  <message id="handsetCancelled">
+   <source>Transfer Cancel.</source>
+   <translation type="unfinished">Übertragung abgebrochen.</translation>
+  </message>
+  <message id="handsetCounter">
+   <source>%1 / %2</source>
+   <translation type="unfinished">%1 / %2</translation>
+  </message>
+  <message id="handsetMainWallpaper">
+   <source>Main Wallpaper</source>
+   <translation type="unfinished">Haupthintergrund</translation>
+  </message>
+  <message id="handsetSubWallpaper">
+   <source>Sub Wallpaper</source>
+   <translation type="unfinished">Außenhintergrund</translation>
+  </message>
+  <message id="handsetMyAlbum">
+   <source>My Album</source>
+   <translation type="unfinished">Mein Album</translation>
+  </message>
+  <message id="handsetFrame">
+   <source>Frame</source>
+   <translation type="unfinished">Rahmen</translation>
+  </message>
+  <message id="handsetRing">
+   <source>Ring</source>
+   <translation type="unfinished">Klingeltöne</translation>
+  </message>
+  <message id="handsetAnimation">
+   <source>Animation</source>
+   <translation type="unfinished">Animationen</translation>
+  </message>
+  <message id="handsetJava">
+   <source>Java</source>
+   <translation type="unfinished">Java</translation>
+  </message>
+  <message id="handsetStart">
+   <source>&amp;Start</source>
+   <translation type="unfinished">&amp;Start</translation>
+  </message>
+  <message id="handsetStop">
+   <source>S&amp;top</source>
+   <translation type="unfinished">S&amp;topp</translation>
+  </message>
+  <message id="handsetClose">
+   <source>&amp;Close</source>
+   <translation type="unfinished">S&amp;chließen</translation>
+  </message>
+  <message id="handsetLooking">
+   <source>Looking for the handset…</source>
+   <translation type="unfinished">Das Handy wird gesucht …</translation>
+  </message>
+  <message id="handsetReadyModel">
+   <source>%1 is connected.</source>
+   <translation type="unfinished">%1 ist verbunden.</translation>
+  </message>
+  <message id="handsetReady">
+   <source>The handset is connected.</source>
+   <translation type="unfinished">Das Handy ist verbunden.</translation>
+  </message>
+  <message id="handsetStopping">
+   <source>Stopping…</source>
+   <translation type="unfinished">Wird angehalten …</translation>
+  </message>
+  <message id="handsetProgressFile">
+   <source>Progress of this file</source>
+   <translation type="unfinished">Fortschritt dieser Datei</translation>
+  </message>
+  <message id="handsetProgressAll">
+   <source>Progress in all</source>
+   <translation type="unfinished">Fortschritt insgesamt</translation>
+  </message>
+  <message id="handsetBusy">
+   <source>Another program or window is already talking to a handset.</source>
+   <translation type="unfinished">Ein anderes Programm oder Fenster spricht bereits mit einem Handy.</translation>
+  </message>
+  <message id="handsetSendTitle">
+   <source>Download to Mobile</source>
+   <translation type="unfinished">Auf das Handy übertragen</translation>
+  </message>
+  <message id="handsetNothingSelected">
+   <source>Select the files for the handset first.</source>
+   <translation type="unfinished">Wählen Sie zuerst die Dateien für das Handy aus.</translation>
+  </message>
+  <message id="handsetTable">
+   <source>Files for the handset</source>
+   <translation type="unfinished">Dateien für das Handy</translation>
+  </message>
+  <message id="handsetFile">
+   <source>File</source>
+   <translation type="unfinished">Datei</translation>
+  </message>
+  <message id="handsetSentAs">
+   <source>Arrives As</source>
+   <translation type="unfinished">Kommt an als</translation>
+  </message>
+  <message id="handsetPlace">
+   <source>In</source>
+   <translation type="unfinished">In</translation>
+  </message>
+  <message id="handsetSize">
+   <source>Size</source>
+   <translation type="unfinished">Größe</translation>
+  </message>
+  <message id="handsetNote">
+   <source>Note</source>
+   <translation type="unfinished">Hinweis</translation>
+  </message>
+  <message id="handsetPlanning" numerus="yes">
+   <source>Looking at %1 files…</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei wird angesehen …</numerusform>
+    <numerusform>%1 Dateien werden angesehen …</numerusform>
+   </translation>
+  </message>
+  <message id="handsetToSend" numerus="yes">
+   <source>%1 files are ready to be sent.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei kann übertragen werden.</numerusform>
+    <numerusform>%1 Dateien können übertragen werden.</numerusform>
+   </translation>
+  </message>
+  <message id="handsetNoneToSend">
+   <source>None of these files can be sent.</source>
+   <translation type="unfinished">Keine dieser Dateien kann übertragen werden.</translation>
+  </message>
+  <message id="handsetInAll">
+   <source>%1 in all</source>
+   <translation type="unfinished">%1 insgesamt</translation>
+  </message>
+  <message id="handsetSending">
+   <source>Sending %1</source>
+   <translation type="unfinished">%1 wird übertragen</translation>
+  </message>
+  <message id="handsetSent" numerus="yes">
+   <source>%1 files are on the handset now.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei ist jetzt auf dem Handy.</numerusform>
+    <numerusform>%1 Dateien sind jetzt auf dem Handy.</numerusform>
+   </translation>
+  </message>
+  <message id="handsetWaiting">
+   <source>Looking at it…</source>
+   <translation type="unfinished">Wird angesehen …</translation>
+  </message>
+  <message id="handsetUnchanged">
+   <source>As it is</source>
+   <translation type="unfinished">Wie sie ist</translation>
+  </message>
+  <message id="handsetFitted">
+   <source>Fitted to the handset's screen, %1 × %2</source>
+   <translation type="unfinished">Auf den Bildschirm des Handys verkleinert, %1 × %2</translation>
+  </message>
+  <message id="handsetAsJpeg">
+   <source>As a JPEG picture</source>
+   <translation type="unfinished">Als JPEG-Bild</translation>
+  </message>
+  <message id="handsetAsSmaf">
+   <source>As a SMAF ring tone</source>
+   <translation type="unfinished">Als SMAF-Klingelton</translation>
+  </message>
+  <message id="handsetWithArchive">
+   <source>With its program, %1</source>
+   <translation type="unfinished">Mit ihrem Programm %1</translation>
+  </message>
+  <message id="handsetTuneKept">
+   <source>As MIDI, since it cannot be converted: %1</source>
+   <translation type="unfinished">Als MIDI, da nicht umwandelbar: %1</translation>
+  </message>
+  <message id="handsetOtherKind">
+   <source>As it is; the handset may not know what to do with it</source>
+   <translation type="unfinished">Wie sie ist; das Handy kann damit vielleicht nichts anfangen</translation>
+  </message>
+  <message id="handsetTooLong">
+   <source>Too long: the handset takes ring tones of up to %1 bytes</source>
+   <translation type="unfinished">Zu lang: das Handy nimmt Klingeltöne bis %1 Byte</translation>
+  </message>
+  <message id="handsetDescriptorBad">
+   <source>Its JAD file is incorrect and ends the transfer</source>
+   <translation type="unfinished">Die JAD-Datei ist falsch und beendet die Übertragung</translation>
+  </message>
+  <message id="handsetArchiveMissing">
+   <source>%1 is missing, which ends the transfer</source>
+   <translation type="unfinished">%1 fehlt, das beendet die Übertragung</translation>
+  </message>
+  <message id="handsetNotPrepared">
+   <source>Cannot be made ready: %1</source>
+   <translation type="unfinished">Kann nicht angepasst werden: %1</translation>
+  </message>
+  <message id="handsetNotAFile">
+   <source>Is no file</source>
+   <translation type="unfinished">Ist keine Datei</translation>
+  </message>
+  <message id="handsetGone">
+   <source>Is not there any more</source>
+   <translation type="unfinished">Ist nicht mehr da</translation>
+  </message>
+  <message id="handsetIsSent">
+   <source>Sent</source>
+   <translation type="unfinished">Übertragen</translation>
+  </message>
+  <message id="handsetIsNotSent">
+   <source>Not sent</source>
+   <translation type="unfinished">Nicht übertragen</translation>
+  </message>
+  <message id="handsetUnderWay">
+   <source>Being sent</source>
+   <translation type="unfinished">Wird übertragen</translation>
+  </message>
+  <message id="handsetFetchTitle">
+   <source>Upload to PC</source>
+   <translation type="unfinished">Auf den PC übertragen</translation>
+  </message>
+  <message id="handsetFetchPhotos">
+   <source>Copy from the handset</source>
+   <translation type="unfinished">Vom Handy kopieren</translation>
+  </message>
+  <message id="handsetFetchRings">
+   <source>Ring tones of the handset</source>
+   <translation type="unfinished">Klingeltöne des Handys</translation>
+  </message>
+  <message id="handsetFetchAnimations">
+   <source>Animations of the handset</source>
+   <translation type="unfinished">Animationen des Handys</translation>
+  </message>
+  <message id="handsetInto">
+   <source>Into %1</source>
+   <translation type="unfinished">Nach %1</translation>
+  </message>
+  <message id="handsetChoose">
+   <source>Tick what to copy.</source>
+   <translation type="unfinished">Kreuzen Sie an, was kopiert werden soll.</translation>
+  </message>
+  <message id="handsetCounting">
+   <source>Counting…</source>
+   <translation type="unfinished">Wird gezählt …</translation>
+  </message>
+  <message id="handsetFetching">
+   <source>Copying from %1</source>
+   <translation type="unfinished">Wird aus %1 kopiert</translation>
+  </message>
+  <message id="handsetFetched" numerus="yes">
+   <source>%1 files were copied from the handset.</source>
+   <translation type="unfinished">
+    <numerusform>%1 Datei wurde vom Handy kopiert.</numerusform>
+    <numerusform>%1 Dateien wurden vom Handy kopiert.</numerusform>
+   </translation>
+  </message>
+  <message id="handsetKeptFiles">
+   <source>What has arrived is in %1.</source>
+   <translation type="unfinished">Was angekommen ist, liegt in %1.</translation>
+  </message>
+  <message id="handsetNotListed">
+   <source>%1 could not be read: %2</source>
+   <translation type="unfinished">%1 konnte nicht gelesen werden: %2</translation>
+  </message>
+  <message id="handsetNoFolder">
+   <source>Choose a folder to copy into first.</source>
+   <translation type="unfinished">Wählen Sie zuerst einen Ordner, in den kopiert werden soll.</translation>
+  </message>
+  <message id="commandUploadRings">
+   <source>Upload Ring Tones to PC</source>
+   <translation type="unfinished">Klingeltöne auf den PC übertragen</translation>
+  </message>
+  <message id="commandUploadAnimations">
+   <source>Upload Animations to PC</source>
+   <translation type="unfinished">Animationen auf den PC übertragen</translation>
+  </message>
+  <message id="handsetDeleteToo">
+   <source>Remove from Mobile Handset too?</source>
+   <translation type="unfinished">Auch vom Handy löschen?</translation>
+  </message>
+  <message id="handsetDeleteAsk" numerus="yes">
+   <source>Delete these %1 files?</source>
+   <translation type="unfinished">
+    <numerusform>Diese Datei löschen?</numerusform>
+    <numerusform>Diese %1 Dateien löschen?</numerusform>
+   </translation>
+  </message>
+  <message id="handsetDeleteWhy">
+   <source>They came from the handset. On this computer they go to the trash.</source>
+   <translation type="unfinished">Sie kommen vom Handy. Auf diesem Computer gehen sie in den Papierkorb.</translation>
+  </message>
+  <message id="handsetDeleteWhyForGood">
+   <source>They came from the handset. On this computer they are gone for good.</source>
+   <translation type="unfinished">Sie kommen vom Handy. Auf diesem Computer sind sie dann endgültig gelöscht.</translation>
+  </message>
+  <message id="handsetDeleting">
+   <source>Removing from the handset</source>
+   <translation type="unfinished">Wird vom Handy gelöscht</translation>
+  </message>
   <message id="handsetDeleteFailed">
    <source>Can not delete default "Photo" or "Ring".</source>
-   <translation type="unfinished">Vorgegebene „Fotos“ oder „Ruftöne“ können nicht gelöscht werden.</translation>
+   <translation type="unfinished">Vorgegebene Einträge in „Foto“ oder „Klingelton“ können nicht gelöscht werden.</translation>
   </message>
   <message id="infoTitle">
    <source>Information on %1</source>

@@ -43,6 +43,8 @@ enum HandsetResult : int {
 struct tag_DataType {  // NOLINT(readability-identifier-naming)
     FileDataType type = FileDataType::photo;
     std::string path;  // the file to send; not used for fetching
+    std::string
+        archive;       // of a Java descriptor to send: what it describes; sent before it, under its own name
     int position = 0;  // which of the category's files to fetch, from 0, in the order of their names
 };
 
@@ -67,6 +69,8 @@ public:
     // Fetches the file into the record file's folder, whole or not at all, and adds its record. Its name
     // comes from the handset, made fit for a file name; a file that is there already is never replaced.
     virtual int StartDownload(int& code) = 0;
+    // Where the file of the latest StartDownload is; empty when there is none.
+    virtual std::string ReceivedPath() = 0;
     // How many files of the category the handset holds; below 0 when it could not be told.
     virtual int GetFileCount(FileDataType type) = 0;
     // Deletes the handset's file that has this index in a record. 0 stands for no file, and fails.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "handset/handset_deletion.h"
 
+#include "handset/noting_link.h"
 #include "handset/record_file.h"
 #include "support/services_guard.h"
 #include "support/test_file_system.h"
@@ -12,51 +13,8 @@
 namespace
 {
 
-using platform::FileDataType;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// A handset that writes down what is asked of it and refuses some deletions.
-class CNotingLink : public platform::CHandsetLink
-{
-public:
-    std::vector<std::string> calls;
-    int refusedIndex = -1;
-    int alive = 0;
-    bool connectionLost = false;  // all objects were gone between two deletions
-
-    std::unique_ptr<platform::CUpDownLoad> NewUpDownLoad() override
-    {
-        connectionLost = connectionLost || (alive == 0 && !calls.empty());
-        return std::make_unique<CObject>(*this);
-    }
-    void SetProgressFunc(void (*)(int)) override {}
-
-private:
-    struct CObject : platform::CUpDownLoad {
-        explicit CObject(CNotingLink& link) : owner(link) { ++owner.alive; }
-        ~CObject() override { --owner.alive; }
-        int SetConnectPort(unsigned number) override { return port = number, 1; }
-        int ATInit() override { return 0; }
-        int SetDataType(const platform::tag_DataType&) override { return 0; }
-        int StartUpload(int&) override { return 0; }
-        int SetDatabaseName(const std::string&) override { return 0; }
-        int StartDownload(int&) override { return 0; }
-        int GetFileCount(FileDataType) override { return 0; }
-        int DeleteFileMobile(FileDataType type, int index) override
-        {
-            owner.calls.push_back(std::to_string(port) + ":" + std::to_string(static_cast<int>(type)) + "," +
-                                  std::to_string(index));
-            return index == 0 || index == owner.refusedIndex ? 0 : 1;
-        }
-        void Abort() override {}
-        std::string Manufacturer() override { return {}; }
-        std::string Model() override { return {}; }
-        std::string LastError() override { return {}; }
-        CNotingLink& owner;
-        unsigned port = 0;
-    };
-};
 
 class HandsetDeletion : public testing::Test
 {

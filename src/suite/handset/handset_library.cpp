@@ -86,6 +86,7 @@ public:
         return recordFile = path, platform::kHandsetDone;
     }
     int StartDownload(int& code) override;
+    std::string ReceivedPath() override { return receivedPath; }
     int GetFileCount(FileDataType type) override;
     int DeleteFileMobile(FileDataType type, int index) override;
     void Abort() override
@@ -104,6 +105,7 @@ public:
 
 private:
     int Fail(const std::string& why);
+    int SendFile(const std::string& path, CPercentage& percentage, int& code);
     int Ended(const ObexAnswer& answer, int& code);
 
     CHandsetLibrary& library;
@@ -111,6 +113,7 @@ private:
     unsigned port = 0;
     platform::tag_DataType file;
     std::string recordFile;
+    std::string receivedPath;
 };
 
 int CUpDownLoad::SetConnectPort(unsigned number)
@@ -146,17 +149,12 @@ int CUpDownLoad::ATInit()
     return answers ? platform::kHandsetDone : platform::kHandsetFailed;
 }
 
-int CUpDownLoad::StartUpload(int& code)
+int CUpDownLoad::SendFile(const std::string& path, CPercentage& percentage, int& code)
 {
-    code = 0;
-    if (!session)
-        return platform::kHandsetFailed;
-    session->SetError("");
-    const auto source = Os().files->Open(file.path, platform::OpenMode::read);
+    const auto source = Os().files->Open(path, platform::OpenMode::read);
     const auto stamp = source ? source->Stamp() : std::nullopt;
     if (!stamp || stamp->size > kLongestSent)
-        return Fail(file.path + ": " + (stamp ? "too long" : Os().files->LastError()));
-    CPercentage percentage(library, stamp->size);
+        return Fail(path + ": " + (stamp ? "too long" : Os().files->LastError()));
     std::uint64_t sent = 0;
     const auto next = [&](std::span<std::byte> buffer) {
         const std::size_t wanted = std::min<std::uint64_t>(buffer.size(), stamp->size - sent);
@@ -166,8 +164,27 @@ int CUpDownLoad::StartUpload(int& code)
         percentage.Add(wanted);
         return static_cast<int>(wanted);
     };
-    const int result = Ended(
-        session->Send(file.type, FileName(file.path), static_cast<std::uint32_t>(stamp->size), next), code);
+    return Ended(session->Send(file.type, FileName(path), static_cast<std::uint32_t>(stamp->size), next),
+                 code);
+}
+
+int CUpDownLoad::StartUpload(int& code)
+{
+    code = 0;
+    if (!session)
+        return platform::kHandsetFailed;
+    session->SetError("");
+    std::uint64_t bytes = 0;
+    for (const std::string& path : {file.archive, file.path}) {
+        const auto facts = path.empty() ? std::nullopt : Os().files->FindFirstFile(path);
+        bytes += facts ? facts->size : 0;
+    }
+    CPercentage percentage(library, bytes);
+    int result = platform::kHandsetDone;
+    if (!file.archive.empty())
+        result = SendFile(file.archive, percentage, code);
+    if (result == platform::kHandsetDone)
+        result = SendFile(file.path, percentage, code);
     if (result == platform::kHandsetDone)
         percentage.Show(100);
     return result;
@@ -176,6 +193,7 @@ int CUpDownLoad::StartUpload(int& code)
 int CUpDownLoad::StartDownload(int& code)
 {
     code = 0;
+    receivedPath.clear();
     if (!session || recordFile.empty())
         return platform::kHandsetFailed;
     session->SetError("");
@@ -197,6 +215,7 @@ int CUpDownLoad::StartDownload(int& code)
     if (result == platform::kHandsetDone && received.Keep() &&
         library.Host().addRecord(recordFile, received.Name(), listed.index)) {
         percentage.Show(100);
+        receivedPath = recordFile.substr(0, recordFile.rfind('/') + 1) + received.Name();
         return result;
     }
     const bool failedHere = result == platform::kHandsetDone || received.IsFull();
