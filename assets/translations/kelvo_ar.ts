@@ -1410,6 +1410,10 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <source>Stopping…</source>
    <translation type="unfinished">جارٍ الإيقاف…</translation>
   </message>
+  <message id="handsetChoosePort">
+   <source>Choose the handset's port in Tools / Options first.</source>
+   <translation type="unfinished">اختر أولًا منفذ الهاتف من أدوات / خيارات.</translation>
+  </message>
   <message id="handsetProgressFile">
    <source>Progress of this file</source>
    <translation type="unfinished">تقدّم هذا الملف</translation>

@@ -1294,6 +1294,10 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <source>Stopping…</source>
    <translation type="unfinished">Wird angehalten …</translation>
   </message>
+  <message id="handsetChoosePort">
+   <source>Choose the handset's port in Tools / Options first.</source>
+   <translation type="unfinished">Wählen Sie zuerst den Anschluss des Handys unter Extras / Optionen.</translation>
+  </message>
   <message id="handsetProgressFile">
    <source>Progress of this file</source>
    <translation type="unfinished">Fortschritt dieser Datei</translation>

@@ -9,13 +9,42 @@ namespace handset
 
 using platform::StringId;
 
-std::unique_ptr<platform::CUpDownLoad> CTransferRun::NewLink() const
+namespace
+{
+
+std::unique_ptr<platform::CUpDownLoad> LinkAt(unsigned port)
 {
     std::unique_ptr<platform::CUpDownLoad> link =
         platform::Os().handset ? platform::Os().handset->NewUpDownLoad() : nullptr;
     if (link)
         link->SetConnectPort(port);
     return link;
+}
+
+HandsetAnswer Ask(platform::CUpDownLoad* link)
+{
+    HandsetAnswer answer;
+    if (!link)
+        return answer;
+    answer.isThere = link->ATInit() == platform::kHandsetDone;
+    answer.reason = link->LastError();
+    answer.model = link->Manufacturer();
+    if (!answer.model.empty() && !link->Model().empty())
+        answer.model += ' ';
+    answer.model += link->Model();
+    return answer;
+}
+
+}  // namespace
+
+HandsetAnswer AskHandset(unsigned port)
+{
+    return Ask(LinkAt(port).get());
+}
+
+std::unique_ptr<platform::CUpDownLoad> CTransferRun::NewLink() const
+{
+    return LinkAt(port);
 }
 
 bool CTransferRun::Connect()
@@ -26,16 +55,11 @@ bool CTransferRun::Connect()
         const std::lock_guard lock(guard);
         held = std::move(link);
     }
-    if (!opened || opened->ATInit() != platform::kHandsetDone) {
-        if (!cancelled)
-            host.ShowStatus(StringId::handsetNoHandset);
-        return false;
-    }
-    model = opened->Manufacturer();
-    if (!model.empty() && !opened->Model().empty())
-        model += ' ';
-    model += opened->Model();
-    return true;
+    const HandsetAnswer answer = Ask(opened);
+    model = answer.model;
+    if (!answer.isThere && !cancelled)
+        host.ShowStatus(StringId::handsetNoHandset, answer.reason);
+    return answer.isThere;
 }
 
 void CTransferRun::Fail(StringId text, const std::string& reason)

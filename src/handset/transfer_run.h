@@ -23,10 +23,9 @@ class CTransferHost
 {
 public:
     virtual ~CTransferHost() = default;
-    // The status line.
-    virtual void ShowStatus(platform::StringId text) = 0;
-    // A message box with an OK button. `reason` says more, in English, for those who want to know; it may be
-    // empty.
+    // The status line. `reason` says more, in English, for those who want to know; it may be empty.
+    virtual void ShowStatus(platform::StringId text, const std::string& reason) = 0;
+    // A message box with an OK button.
     virtual void ShowMessage(platform::StringId text, const std::string& reason) = 0;
     // A file is about to be transferred: its number, from 1, and how many there are.
     virtual void ShowCounter(int number, int total) = 0;
@@ -46,6 +45,16 @@ struct TransferredFile {
     platform::FileDataType type = platform::FileDataType::photo;
     int result = platform::kHandsetFailed;  // one of HandsetResult
 };
+
+// What a look for the handset has found.
+struct HandsetAnswer {
+    bool isThere = false;
+    std::string model;   // with its maker before it; empty when the handset does not say
+    std::string reason;  // why it is not there, in English
+};
+
+// Takes up to 10 s.
+HandsetAnswer AskHandset(unsigned port);
 
 class CTransferRun
 {

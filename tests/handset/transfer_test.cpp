@@ -24,7 +24,10 @@ class CNotingHost : public handset::CTransferHost
 {
 public:
     Lines shown;
-    void ShowStatus(platform::StringId text) override { shown.push_back("status " + Name(text)); }
+    void ShowStatus(platform::StringId text, const std::string&) override
+    {
+        shown.push_back("status " + Name(text));
+    }
     void ShowMessage(platform::StringId text, const std::string&) override { shown.push_back(Name(text)); }
     void ShowCounter(int number, int total) override
     {
