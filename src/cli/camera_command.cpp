@@ -3,13 +3,11 @@
 #include "app/settings.h"
 #include "app/string_table.h"
 #include "cli/commands.h"
+#include "cli/interruption_guard.h"
 #include "handset/camera_copy.h"
 #include "platform/services.h"
 
 #include <fmt/format.h>
-
-#include <array>
-#include <thread>
 
 namespace cli
 {
@@ -52,42 +50,6 @@ private:
     CContext& context;
 };
 
-// Ends the copy when the program is interrupted, in the middle of a file too.
-class CInterruptionGuard
-{
-public:
-    explicit CInterruptionGuard(handset::CCameraCopy& copy)
-        : interrupted(platform::Os().changes->CreateEvent()), ended(platform::Os().changes->CreateEvent())
-    {
-        if (!interrupted || !ended) {
-            return;
-        }
-        WakeAtInterruption(interrupted.get());
-        thread = std::thread([this, &copy] {
-            const std::array<platform::CWaitable*, 2> events = {interrupted.get(), ended.get()};
-            if (platform::Os().changes->WaitForMultipleObjects(events, platform::kNoTimeOut) ==
-                platform::kWaitObject0) {
-                copy.Cancel();
-            }
-        });
-    }
-    ~CInterruptionGuard()
-    {
-        if (thread.joinable()) {
-            WakeAtInterruption(nullptr);
-            ended->Set();
-            thread.join();
-        }
-    }
-    CInterruptionGuard(const CInterruptionGuard&) = delete;
-    CInterruptionGuard& operator=(const CInterruptionGuard&) = delete;
-
-private:
-    std::unique_ptr<platform::CEvent> interrupted;
-    std::unique_ptr<platform::CEvent> ended;
-    std::thread thread;
-};
-
 void ReportLeftOut(CContext& context)
 {
     for (const std::string& path : platform::Os().cameraStore->LeftOut()) {
@@ -97,7 +59,7 @@ void ReportLeftOut(CContext& context)
 
 void CopyAll(CContext& context, handset::CCameraCopy& copy)
 {
-    const CInterruptionGuard guard(copy);
+    const CInterruptionGuard guard([&copy] { copy.Cancel(); });
     if (!copy.Start()) {
         return;
     }

@@ -23,6 +23,7 @@ void AddStampCommand(CLI::App& parser, CContext& context);
 void AddRenameCommands(CLI::App& parser, CContext& context);  // rename, undo
 void AddSoundCommand(CLI::App& parser, CContext& context);
 void AddCameraCommand(CLI::App& parser, CContext& context);
+void AddHandsetCommand(CLI::App& parser, CContext& context);
 void AddWatchCommand(CLI::App& parser, CContext& context);
 
 // The option that chooses the media types of a list.

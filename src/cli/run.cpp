@@ -32,6 +32,7 @@ int Run(int argc, const char* const* argv, const char* version)
     AddRenameCommands(parser, context);
     AddSoundCommand(parser, context);
     AddCameraCommand(parser, context);
+    AddHandsetCommand(parser, context);
     AddWatchCommand(parser, context);
     CatchInterruptions();
     try {

@@ -25,6 +25,12 @@ std::unique_ptr<CUpDownLoad> NewLink(unsigned port)
 
 }  // namespace
 
+FolderClass ClassOfFolder(const std::string& path)
+{
+    const std::string folder = path.substr(0, path.rfind('/') + 1);
+    return folder.ends_with("/Ring/") ? FolderClass::ring : FolderClass::other;
+}
+
 platform::FileDataType DeletionCategory(FolderClass folderClass)
 {
     return folderClass == FolderClass::ring ? platform::FileDataType::ring
@@ -46,8 +52,12 @@ bool CHandsetDeletion::Step()
     const std::string& path = files[next++];
     const int index = FindHandsetIndex(RecordFileOf(path), path.substr(path.rfind('/') + 1));
     const std::unique_ptr<CUpDownLoad> link = NewLink(port);
-    if (!link || link->DeleteFileMobile(type, index) != platform::kHandsetDone)
+    if (!link || link->DeleteFileMobile(type, index) != platform::kHandsetDone) {
         failedPaths.push_back(path);
+        reason = !link        ? ""
+                 : index == 0 ? "no record says which file of the handset it is"
+                              : link->LastError();
+    }
     if (next >= files.size())
         held.reset();
     return true;

@@ -18,6 +18,8 @@ namespace handset
 
 enum class FolderClass { ring, other };
 
+// Of the folder that the file is in: the folders that receive files have the names of their categories.
+FolderClass ClassOfFolder(const std::string& path);
 // What the files of such a folder are to the handset.
 platform::FileDataType DeletionCategory(FolderClass folderClass);
 
@@ -34,6 +36,8 @@ public:
     std::size_t Position() const { return next; }
     std::size_t Count() const { return files.size(); }
     const std::vector<std::string>& FailedPaths() const { return failedPaths; }
+    // Why the last of them stayed there, in English.
+    const std::string& Reason() const { return reason; }
     // To be told once, after the run; none when every file went.
     platform::StringId Message() const;
 
@@ -43,6 +47,7 @@ private:
     unsigned port;
     std::size_t next = 0;
     std::vector<std::string> failedPaths;
+    std::string reason;
     std::unique_ptr<platform::CUpDownLoad> held;  // keeps the connection from one file to the next
 };
 
