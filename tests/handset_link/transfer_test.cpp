@@ -67,7 +67,7 @@ protected:
     int Send(const std::string& path, FileDataType type = FileDataType::photo)
     {
         const auto link = NewLink();
-        link->SetDataType({type, path});
+        link->SetDataType({type, path, "", 0});
         toAbort = aborts ? link.get() : nullptr;
         const int result = link->StartUpload(code);
         error = link->LastError();
@@ -77,7 +77,7 @@ protected:
     {
         const auto link = NewLink();
         link->SetDatabaseName(records);
-        link->SetDataType({type, "", position});
+        link->SetDataType({type, "", "", position});
         toAbort = aborts ? link.get() : nullptr;
         const int result = link->StartDownload(code);
         error = link->LastError();
