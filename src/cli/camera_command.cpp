@@ -57,6 +57,25 @@ void ReportLeftOut(CContext& context)
     }
 }
 
+void ReportTrouble(CContext& context, const handset::CCameraCopy& copy)
+{
+    using enum handset::CCameraCopy::Trouble;
+    switch (copy.WhatFailed()) {
+    case none:
+        return;
+    case noPlace:
+        return context.Fail(kCamera, "there is no folder to copy to");
+    case noFolder:
+        return context.Fail(copy.Folder(), copy.Failure());
+    case storeGone:
+        return context.Fail(kCamera, fmt::format("is gone after {} of {} files: {}", copy.Files().size(),
+                                                 copy.Total(), copy.Failure()));
+    default:
+        context.Fail(copy.Folder(), fmt::format("file {} of {} cannot be copied: {}", copy.Files().size() + 1,
+                                                copy.Total(), copy.Failure()));
+    }
+}
+
 void CopyAll(CContext& context, handset::CCameraCopy& copy)
 {
     const CInterruptionGuard guard([&copy] { copy.Cancel(); });
@@ -67,10 +86,7 @@ void CopyAll(CContext& context, handset::CCameraCopy& copy)
     while (Interruption() == 0 && copy.Step()) {
     }
     copy.Finish();
-    if (!copy.Failure().empty()) {
-        context.Fail(copy.Folder(), fmt::format("file {} of {} cannot be copied: {}", copy.Files().size() + 1,
-                                                copy.Total(), copy.Failure()));
-    }
+    ReportTrouble(context, copy);
     if (copy.HasKeptPhotos()) {
         context.Fail(kCamera, "some photos could not be deleted");
     }

@@ -17,11 +17,19 @@ namespace
 
 using platform::StringId;
 
-void MakePath(const std::string& path)
+// Makes the folder with all above it; false, with the reason, when it is not there after that.
+bool MakePath(const std::string& path, std::string& why)
 {
-    for (std::size_t slash = path.find('/', 1); slash != std::string::npos; slash = path.find('/', slash + 1))
-        platform::Os().files->CreateDirectory(path.substr(0, slash));
-    platform::Os().files->CreateDirectory(path);
+    for (std::size_t end = 0; end != std::string::npos;) {
+        end = path.find('/', end + 1);
+        const std::string part = path.substr(0, end);
+        if (platform::Os().files->CreateDirectory(part))
+            continue;
+        why = platform::Os().files->LastError();
+        if (!platform::Os().files->FindFirstFile(part))
+            return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -68,17 +76,21 @@ bool CCameraCopy::Start()
     return true;
 }
 
-// A folder that cannot be made shows at the first file, which then fails. Without a download folder none is
-// made: its parent would be the root of the file system.
+// What goes wrong here is told at the first file. Without a download folder none is made: its parent would be
+// the root of the file system.
 void CCameraCopy::MakeFolder()
 {
     std::string parent = plan.downloadFolder;
-    if (parent.empty())
+    if (parent.empty()) {
+        Fail(Trouble::noPlace, {});
         return;
+    }
     while (parent.size() > 1 && parent.back() == '/')
         parent.pop_back();
     folder = fmt::format("{}/{}", parent, CameraFolderName(platform::Os().utility->ql_GetCurDate()));
-    MakePath(folder);
+    std::string why;
+    if (!MakePath(folder, why))
+        Fail(Trouble::noFolder, why);
 }
 
 bool CCameraCopy::Step()
@@ -110,18 +122,29 @@ bool CCameraCopy::CopyOne(bool isPhoto, int position)
     int& counter = isPhoto ? plan.numbers.photo : plan.numbers.clip;
     const int number = plan.numbers.useId ? counter : position;
     const int kind = isPhoto ? platform::kMsdPhoto : platform::kMsdClip;
-    if (folder.empty())
+    if (trouble != Trouble::none)
         return false;
     if (module.UploadFile(1, static_cast<unsigned>(position), static_cast<unsigned>(kind),
                           CameraFileStem(folder, isPhoto ? "DSC" : "AVI", number), nullptr) == 0) {
-        if (!halted)
-            failure = module.LastError();
-        return false;
+        using enum platform::MsdFailure;
+        const platform::MsdFailure why = module.LastFailure();
+        return !halted && Fail(why == storeGone  ? Trouble::storeGone
+                               : why == diskFull ? Trouble::diskFull
+                                                 : Trouble::other,
+                               module.LastError());
     }
     if (plan.numbers.useId)
         ++counter;
     files.push_back(module.UploadedPath());
     return true;
+}
+
+// False, for the caller to return.
+bool CCameraCopy::Fail(Trouble what, const std::string& why)
+{
+    trouble = what;
+    failure = why;
+    return false;
 }
 
 void CCameraCopy::Finish()

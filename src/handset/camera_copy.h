@@ -76,7 +76,12 @@ public:
     // The copies, in their order.
     const std::vector<std::string>& Files() const { return files; }
     int Total() const { return total; }
-    // Why a file could not be copied; empty when none failed.
+    // What the camera has and cannot be read; known after Start.
+    std::vector<std::string> LeftOut() const { return module.LeftOut(); }
+    // Why the run ended before its last file, without anybody's wish; none as long as it did not.
+    enum class Trouble { none, noPlace, noFolder, storeGone, diskFull, other };
+    Trouble WhatFailed() const { return trouble; }
+    // The same in plain words; empty for `none` and `noPlace`.
     const std::string& Failure() const { return failure; }
     // Whether photos that should have been deleted are still there.
     bool HasKeptPhotos() const { return keptPhotos; }
@@ -87,6 +92,7 @@ private:
     void Halt(int reason);
     void MakeFolder();
     bool CopyOne(bool isPhoto, int position);
+    bool Fail(Trouble what, const std::string& why);
 
     platform::CMsdModule& module;
     CameraCopyPlan plan;
@@ -94,6 +100,7 @@ private:
     std::string folder;
     std::vector<std::string> files;
     std::string failure;
+    Trouble trouble = Trouble::none;
     int total = 0;
     int copied = 0;
     int steps = 0;

@@ -5,9 +5,10 @@
 // One instance a program. The order of calls: UnInitMsd, InitMsd, then counts, copies and deletions,
 // UnInitMsd. What InitMsd found is held until UnInitMsd: positions count from 1 within a kind and stay what
 // they are, whatever happens to the device. Zero means failure, anything else success. One thread at a time,
-// but for Abort. Nothing but DeleteMsdFile ever writes to the store.
+// but for Abort and Survey. Nothing but DeleteMsdFile ever writes to the store.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,21 @@ namespace platform
 inline constexpr int kMsdPhoto = 1;
 inline constexpr int kMsdClip = 2;
 inline constexpr int kMsdAll = 3;
+
+enum class MsdFailure {
+    other,
+    storeGone,  // the camera or card is no longer there
+    diskFull,   // where the copies go
+};
+
+// What a connection would find.
+struct MsdSurvey {
+    std::string root;   // where the store is mounted
+    std::string label;  // what the place is called
+    int photos = 0;
+    int clips = 0;
+    bool isCut = false;  // there is more than was counted
+};
 
 class CMsdModule
 {
@@ -49,10 +65,15 @@ public:
 
     // Where the latest successful UploadFile has put the file.
     virtual std::string UploadedPath() const = 0;
-    // Why the latest call failed, in plain words.
+    // Why the latest call failed, in plain words, and of what sort it was.
     virtual std::string LastError() const = 0;
+    virtual MsdFailure LastFailure() const = 0;
     // Files of the store that cannot be read, and folders that cannot be listed: they are not counted.
     virtual std::vector<std::string> LeftOut() const = 0;
+
+    // Looks at the store that InitMsd would take, without a connection and whatever else is going on: any
+    // thread. Counts no further than a look may take. None when there is nothing to copy.
+    virtual std::optional<MsdSurvey> Survey(const std::string& deviceFile) const = 0;
 };
 
 }  // namespace platform

@@ -29,6 +29,7 @@ public:
     unsigned uploads = 0;
     std::function<void()> duringUpload = [] {};
     std::string lastPath;
+    platform::MsdFailure lastFailure = platform::MsdFailure::other;
 
     void UnInitMsd() override { calls.emplace_back("uninit"); }
     int InitMsd(const std::string& file, char drive, int kind) override
@@ -62,7 +63,9 @@ public:
     }
     std::string UploadedPath() const override { return lastPath + "JPG"; }
     std::string LastError() const override { return "pulled"; }
+    platform::MsdFailure LastFailure() const override { return lastFailure; }
     Lines LeftOut() const override { return {}; }
+    std::optional<platform::MsdSurvey> Survey(const std::string&) const override { return std::nullopt; }
 };
 
 class CNotingHost : public handset::CCameraCopyHost
@@ -103,6 +106,7 @@ protected:
         files = copy.Files();
         numbers = copy.Numbers();
         failure = copy.Failure();
+        trouble = copy.WhatFailed();
     }
     Lines Uploads() const
     {
@@ -120,6 +124,7 @@ protected:
     Lines files;
     handset::CameraNumbers numbers;
     std::string failure;
+    CCameraCopy::Trouble trouble = CCameraCopy::Trouble::none;
 };
 
 }  // namespace
@@ -149,9 +154,15 @@ TEST_F(CameraCopy, MakesEveryLevelOfAFolderNamedByTheStartAndUsesOneThatIsThere)
                   services.folder.Path() + "/a/b/" + handset::CameraFolderName(130'000'000'000'000'000));
         EXPECT_TRUE(std::filesystem::is_directory(folder));
     }
-    plan.downloadFolder.clear();
     module.calls.clear();
+    plan.downloadFolder.clear();
     Run();
+    EXPECT_EQ(trouble, CCameraCopy::Trouble::noPlace);
+    support::WriteBytes(services.folder.Path("file"), "");
+    plan.downloadFolder = services.folder.Path("file") + "/below/it";
+    Run();
+    EXPECT_EQ(trouble, CCameraCopy::Trouble::noFolder);
+    EXPECT_EQ(failure, "Not a directory");
     EXPECT_THAT(Uploads(), IsEmpty());
 }
 
@@ -234,11 +245,21 @@ TEST_F(CameraCopy, EndsAtAFailureAStopOrACancelAndKeepsWhatWasCopied)
     module.failsAt = 2;
     Run();
     EXPECT_EQ(failure, "pulled");
+    EXPECT_EQ(trouble, CCameraCopy::Trouble::other);
     EXPECT_EQ(numbers.photo, 42);
     EXPECT_THAT(files, ElementsAre(folder + "/DSC00041.JPG"));
     EXPECT_THAT(host.shown, ElementsAre("0 of 5", "1 of 5"));
     EXPECT_THAT(Lines(module.calls.end() - 3, module.calls.end()),
                 ElementsAre("up 1.2 DSC00042.", "abort 1", "uninit"));
+
+    for (const auto& [why, what] :
+         {std::pair{platform::MsdFailure::storeGone, CCameraCopy::Trouble::storeGone},
+          {platform::MsdFailure::diskFull, CCameraCopy::Trouble::diskFull}}) {
+        module.lastFailure = why;
+        module.uploads = 0;
+        Run();
+        EXPECT_EQ(trouble, what);
+    }
 
     module.failsAt = 0;
     for (const bool isCancel : {false, true}) {

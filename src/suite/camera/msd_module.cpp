@@ -12,6 +12,9 @@ namespace suite
 namespace
 {
 
+// A look must not take long, on a slow card either.
+constexpr ListBounds kLook = {10'000, 30'000};
+
 std::string ParentOf(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
@@ -29,6 +32,18 @@ std::string ExtensionOf(const std::string& path)
 int CMountedStore::Fail(int reason)
 {
     error = std::strerror(reason);
+    failure = platform::MsdFailure::other;
+    return 0;
+}
+
+// As Fail, for a copy, which may fail for either of its ends.
+int CMountedStore::FailCopy(int reason)
+{
+    Fail(reason);
+    if (!IsStillThere(connected))
+        failure = platform::MsdFailure::storeGone;
+    else if (reason == ENOSPC || reason == EDQUOT)
+        failure = platform::MsdFailure::diskFull;
     return 0;
 }
 
@@ -57,10 +72,12 @@ int CMountedStore::InitMsd(const std::string& deviceFile, char drive, int kind)
     }
     const DeviceRules rules = ReadDeviceFile(deviceFile);
     // The first store with something in it; else the first.
-    for (const std::string& root : FindStores(rules)) {
-        StoreList found = ListStore(root, rules);
-        if (!isConnected || list.IsEmpty())
+    for (const FoundStore& store : FindStores(rules)) {
+        StoreList found = ListStore(store.root, rules);
+        if (!isConnected || list.IsEmpty()) {
             list = std::move(found);
+            connected = store;
+        }
         isConnected = true;
         if (!list.IsEmpty())
             break;
@@ -132,9 +149,9 @@ int CMountedStore::UploadFile(int device, unsigned number, unsigned kind, const 
     if (!copy)
         return Fail(ECANCELED);
     if (copy->Failure() != 0 || !copy->GiveName(path + ExtensionOf(files[index]->path)))
-        return Fail(copy->Failure());
+        return FailCopy(copy->Failure());
     uploaded = copy->Path();
-    return index + 1 < files.size() || Settle(folder) ? 1 : Fail(errno);
+    return index + 1 < files.size() || Settle(folder) ? 1 : FailCopy(errno);
 }
 
 void CMountedStore::Abort(int)
@@ -160,6 +177,18 @@ int CMountedStore::DeleteMsdFile(int kind, int number)
             result = Fail(errno);
     }
     return result;
+}
+
+std::optional<platform::MsdSurvey> CMountedStore::Survey(const std::string& deviceFile) const
+{
+    const DeviceRules rules = ReadDeviceFile(deviceFile);
+    for (const FoundStore& store : FindStores(rules)) {
+        const StoreList found = ListStore(store.root, rules, kLook);
+        if (!found.IsEmpty())
+            return platform::MsdSurvey{store.root, store.label, static_cast<int>(found.photos.size()),
+                                       static_cast<int>(found.clips.size()), found.isCut};
+    }
+    return std::nullopt;
 }
 
 }  // namespace suite

@@ -23,10 +23,13 @@ public:
     int DeleteMsdFile(int kind, int number) override;
     std::string UploadedPath() const override { return uploaded; }
     std::string LastError() const override { return error; }
+    platform::MsdFailure LastFailure() const override { return failure; }
     std::vector<std::string> LeftOut() const override { return list.leftOut; }
+    std::optional<platform::MsdSurvey> Survey(const std::string& deviceFile) const override;
 
 private:
     int Fail(int reason);
+    int FailCopy(int reason);
     // The file in the order of the copy, photos first; files.size() when there is none such.
     std::size_t IndexOf(int kind, unsigned number) const;
     bool PrepareCopies(const std::string& folder, std::size_t index);
@@ -37,6 +40,8 @@ private:
     bool isConnected = false;
     std::string uploaded;
     std::string error;
+    platform::MsdFailure failure = platform::MsdFailure::other;
+    FoundStore connected;
     std::mutex mutex;  // guards what follows against Abort
     bool aborted = false;
     std::unique_ptr<CCopyAhead> copies;

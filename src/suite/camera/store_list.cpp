@@ -10,7 +10,9 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <optional>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace suite
@@ -21,6 +23,8 @@ namespace
 
 // Cards have two levels; a folder tree deeper than this is no camera's.
 constexpr int kDeepest = 8;
+// A folder with more names than this is none that only holds photo folders; disks have large ones.
+constexpr std::size_t kMostAbove = 2'000;
 
 bool IsOneOf(const std::string& word, const std::vector<std::string>& words)
 {
@@ -38,15 +42,19 @@ std::vector<std::string> SortedNames(std::vector<std::pair<std::string, std::str
     return sorted;
 }
 
-// The names in a folder but for hidden ones; false when it cannot be listed.
-bool ReadNames(const std::string& folder, std::vector<std::string>& sorted)
+// The names in a folder but for hidden ones, no more than `most`; false when it cannot be listed.
+bool ReadNames(const std::string& folder, std::vector<std::string>& sorted,
+               std::size_t most = std::numeric_limits<std::size_t>::max())
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
     if (!stream)
         return false;
     std::vector<std::pair<std::string, std::string>> names;
     errno = 0;
-    while (const dirent* entry = readdir(stream.get())) {
+    for (std::size_t read = 0; read < most; ++read) {
+        const dirent* entry = readdir(stream.get());
+        if (!entry)
+            break;
         if (entry->d_name[0] != '.')
             names.emplace_back(LowerCase(entry->d_name), entry->d_name);
         errno = 0;
@@ -54,6 +62,21 @@ bool ReadNames(const std::string& folder, std::vector<std::string>& sorted)
     const bool isWhole = errno == 0;
     sorted = SortedNames(std::move(names));
     return isWhole;
+}
+
+std::string NameOf(const std::string& path)
+{
+    const std::size_t last = path.find_last_not_of('/');
+    const std::string trimmed = path.substr(0, last + 1);
+    return trimmed.substr(trimmed.rfind('/') + 1);
+}
+
+// The number of the file system that a folder lies on; none when it is no folder.
+std::optional<std::uint64_t> DeviceOf(const std::string& folder)
+{
+    struct stat facts = {};
+    const bool isThere = stat(folder.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+    return isThere ? std::optional<std::uint64_t>(facts.st_dev) : std::nullopt;
 }
 
 bool IsFolder(const std::string& path)
@@ -65,13 +88,15 @@ bool IsFolder(const std::string& path)
 class CStoreWalk
 {
 public:
-    explicit CStoreWalk(const DeviceRules& theRules) : rules(theRules) {}
+    CStoreWalk(const DeviceRules& theRules, ListBounds theBounds) : rules(theRules), left(theBounds) {}
 
     void Enter(const std::string& folder, int depth)
     {
         std::vector<std::string> names;
-        if (!ReadNames(folder, names))
+        if (!ReadNames(folder, names, left.names))
             list.leftOut.push_back(folder);
+        left.names -= names.size();
+        list.isCut |= left.names == 0;
         for (const std::string& name : names)
             Look(folder + '/' + name, name, depth);
     }
@@ -94,12 +119,17 @@ private:
             return;
         if (!isThere || (S_ISREG(facts.st_mode) && access(path.c_str(), R_OK) != 0))
             list.leftOut.push_back(path);
+        else if (S_ISREG(facts.st_mode) && !TakeOne())
+            list.isCut = true;
         else if (S_ISREG(facts.st_mode))
             (isPhoto ? list.photos : list.clips)
                 .push_back({path, static_cast<std::uint64_t>(facts.st_size), facts.st_mtim.tv_sec});
     }
 
+    bool TakeOne() { return left.files > 0 && left.files-- > 0; }
+
     const DeviceRules& rules;
+    ListBounds left;
 };
 
 // The photo folders of a store: in its root, and in the folders there (a device with a store inside and a
@@ -109,7 +139,7 @@ std::vector<std::string> PhotoFolders(const std::string& root, const DeviceRules
     std::vector<std::string> found;
     std::vector<std::string> names;
     std::vector<std::string> below;
-    ReadNames(root, names);
+    ReadNames(root, names, kMostAbove);
     for (const std::string& name : names) {
         const std::string path = root + '/' + name;
         if (!IsFolder(path))
@@ -118,7 +148,7 @@ std::vector<std::string> PhotoFolders(const std::string& root, const DeviceRules
             found.push_back(path);
             continue;
         }
-        ReadNames(path, below);
+        ReadNames(path, below, kMostAbove);
         for (const std::string& inner : below) {
             if (IsOneOf(LowerCase(inner), rules.folders) && IsFolder(path + '/' + inner))
                 found.push_back(path + '/' + inner);
@@ -129,9 +159,9 @@ std::vector<std::string> PhotoFolders(const std::string& root, const DeviceRules
 
 }  // namespace
 
-StoreList ListStore(const std::string& root, const DeviceRules& rules)
+StoreList ListStore(const std::string& root, const DeviceRules& rules, ListBounds bounds)
 {
-    CStoreWalk walk(rules);
+    CStoreWalk walk(rules, bounds);
     std::vector<std::string> folders = PhotoFolders(root, rules);
     if (folders.empty() && root == rules.root)
         folders.push_back(root);
@@ -140,24 +170,35 @@ StoreList ListStore(const std::string& root, const DeviceRules& rules)
     return std::move(walk.list);
 }
 
-std::vector<std::string> FindStores(const DeviceRules& rules)
+std::vector<FoundStore> FindStores(const DeviceRules& rules)
 {
-    struct stat facts = {};
     if (!rules.root.empty()) {
-        const bool isThere = stat(rules.root.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
-        return isThere ? std::vector{rules.root} : std::vector<std::string>{};
+        const std::optional<std::uint64_t> device = DeviceOf(rules.root);
+        return device ? std::vector<FoundStore>{{rules.root, NameOf(rules.root), *device}}
+                      : std::vector<FoundStore>{};
     }
-    std::vector<std::string> named;
-    std::vector<std::string> removable;
+    std::vector<FoundStore> named;
+    std::vector<FoundStore> removable;
     const std::vector<platform::Volume> volumes =
         platform::Os().shell ? platform::Os().shell->Volumes() : std::vector<platform::Volume>{};
     for (const platform::Volume& volume : volumes) {
         const bool isNamed = IsOneOf(LowerCase(volume.label), rules.labels);
         if ((isNamed || volume.removable) && !PhotoFolders(volume.mountPoint, rules).empty())
-            (isNamed ? named : removable).push_back(volume.mountPoint);
+            (isNamed ? named : removable)
+                .push_back({volume.mountPoint, volume.label, DeviceOf(volume.mountPoint).value_or(0)});
     }
     named.insert(named.end(), removable.begin(), removable.end());
     return named;
+}
+
+// A card that was pulled out may stay mounted, but its device goes.
+bool IsStillThere(const FoundStore& store)
+{
+    std::vector<std::string> names;
+    const std::string device =
+        "/sys/dev/block/" + std::to_string(major(store.device)) + ':' + std::to_string(minor(store.device));
+    return DeviceOf(store.root) == store.device && ReadNames(store.root, names, kMostAbove) &&
+           (major(store.device) == 0 || access(device.c_str(), F_OK) == 0);
 }
 
 bool IsUnchanged(const StoredFile& file)

@@ -6,8 +6,8 @@
 #include "ui/controls/dialog_buttons.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/panel.h"
+#include "ui/controls/transfer_picture.h"
 #include "ui/display_text.h"
-#include "ui/icons.h"
 #include "ui/path_label.h"
 #include "ui/theme.h"
 #include "ui/words.h"
@@ -21,16 +21,9 @@
 namespace ui
 {
 
-namespace
-{
-
-constexpr int kIconSide = 8 * kGrid;
-
-}  // namespace
-
 CCameraDialog::CCameraDialog(handset::CameraCopyPlan plan, QWidget* parent)
-    : QDialog(parent), picture(new CStaticEx(this)), where(new CPathLabel(this)), bar(new QProgressBar(this)),
-      text(new CStaticEx(Text(StringId::cameraLooking), this)), stop(nullptr),
+    : QDialog(parent), picture(new CTransferPicture(Transfer::cameraToPc, this)), where(new CPathLabel(this)),
+      bar(new QProgressBar(this)), text(new CStaticEx(Text(StringId::cameraLooking), this)), stop(nullptr),
       copy(*platform::Os().cameraStore, std::move(plan), *this)
 {
     setObjectName(QStringLiteral("upload"));
@@ -49,8 +42,6 @@ CCameraDialog::~CCameraDialog()
 
 void CCameraDialog::Build()
 {
-    picture->setPixmap(ThemedIcon(QStringLiteral("camera")).pixmap(kIconSide, kIconSide));
-    picture->setAlignment(Qt::AlignCenter);
     bar->setRange(0, 0);
     bar->setTextVisible(false);
     bar->setAccessibleName(Text(StringId::cameraProgress));
@@ -78,6 +69,7 @@ void CCameraDialog::Work()
     while (outcome.began && copy.Step()) {
     }
     outcome.whole = copy.IsWhole();
+    outcome.leftOut = copy.LeftOut();
     copy.Finish();
     QMetaObject::invokeMethod(
         this, [this, outcome] { OnEnded(outcome); }, Qt::QueuedConnection);
@@ -138,6 +130,7 @@ void CCameraDialog::OnMessage(platform::StringId message)
 
 void CCameraDialog::OnCount(int copied, int total, const std::string& folder)
 {
+    picture->SetPlaying(isWorking);
     bar->setRange(0, total);
     bar->setValue(copied);
     where->SetPath(folder);
@@ -163,11 +156,35 @@ void CCameraDialog::reject()
     copy.Cancel();
 }
 
+QString CCameraDialog::EndText() const
+{
+    using enum handset::CCameraCopy::Trouble;
+    const QString folder = Shown(copy.Folder());
+    const QString why = Shown(copy.Failure());
+    const bool nothing = copy.Files().empty();
+    switch (copy.WhatFailed()) {
+    case none:
+        return nothing ? Text(StringId::cameraStoppedNothing) : Text(StringId::cameraStopped, folder);
+    case noPlace:
+        return Text(StringId::cameraNoPlace);
+    case noFolder:
+        return Text(StringId::cameraNoFolder, folder, why);
+    case storeGone:
+        return nothing ? Text(StringId::cameraGoneNothing) : Text(StringId::cameraGone, folder);
+    case diskFull:
+        return Text(nothing ? StringId::cameraFullNothing : StringId::cameraFull, folder);
+    case other:
+        break;
+    }
+    return nothing ? Text(StringId::cameraFailedNothing, why) : Text(StringId::cameraFailed, why, folder);
+}
+
 void CCameraDialog::OnEnded(const Outcome& outcome)
 {
     isWorking = false;
+    picture->SetPlaying(false);
     Q_EMIT Counted(copy.Numbers());
-    Q_EMIT Ended(static_cast<int>(copy.Files().size()), copy.HasKeptPhotos());
+    Q_EMIT Ended(static_cast<int>(copy.Files().size()), copy.HasKeptPhotos(), outcome.leftOut);
     if (outcome.whole)
         return accept();
     if (!outcome.began || isClosing)
@@ -175,10 +192,7 @@ void CCameraDialog::OnEnded(const Outcome& outcome)
     stop->setText(Text(StringId::cameraClose));
     stop->setEnabled(true);
     stop->setFocus();
-    const QString folder = Shown(copy.Folder());
-    where->SetPath(copy.Folder());
-    text->setText(copy.Failure().empty() ? Text(StringId::cameraStopped, folder)
-                                         : Text(StringId::cameraFailed, Shown(copy.Failure()), folder));
+    text->setText(EndText());
     stop->SetImage({});
     // The text may need more lines than the one before it.
     layout()->activate();

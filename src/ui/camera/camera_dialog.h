@@ -24,6 +24,7 @@ namespace ui
 
 class CButtonEx;
 class CPathLabel;
+class CTransferPicture;
 
 class CCameraDialog : public QDialog, private handset::CCameraCopyHost
 {
@@ -37,13 +38,15 @@ public:
 Q_SIGNALS:
     // Files have been copied, and this is what the counters are now.
     void Counted(const handset::CameraNumbers& numbers);
-    // The run is over after `copied` files; `kept` when photos could not be deleted.
-    void Ended(int copied, bool kept);
+    // The run is over after `copied` files; `kept` when photos could not be deleted, `leftOut` what the
+    // camera has and could not be read.
+    void Ended(int copied, bool kept, const std::vector<std::string>& leftOut);
 
 private:
     struct Outcome {
         bool began = false;
         bool whole = false;
+        std::vector<std::string> leftOut;
     };
 
     void Build();
@@ -59,8 +62,10 @@ private:
     void Answer(int code);
     void StopCopy();
     void OnEnded(const Outcome& outcome);
+    // What became of a run that ended early.
+    QString EndText() const;
 
-    QLabel* picture;
+    CTransferPicture* picture;
     CPathLabel* where;
     QProgressBar* bar;
     QLabel* text;

@@ -12,6 +12,8 @@
 #include "ui/photo/photo_info_dialog.h"
 #include "ui/words.h"
 
+#include <algorithm>
+
 namespace ui
 {
 
@@ -55,6 +57,18 @@ void ShowProperties(CMainFrame& frame)
     dialog->open();
 }
 
+void TellLeftOut(CMainFrame& frame, const std::vector<std::string>& paths)
+{
+    constexpr std::size_t kMostNames = 10;
+    QStringList names;
+    for (std::size_t i = 0; i < std::min(paths.size(), kMostNames); ++i)
+        names.append(Shown(paths[i]));
+    if (paths.size() > kMostNames)
+        names.append(QStringLiteral("\u2026"));
+    frame.Tell(Counted(StringId::cameraLeftOut, static_cast<qint64>(paths.size())),
+               names.join(QLatin1Char('\n')));
+}
+
 void CopyFromCamera(CMainFrame& frame)
 {
     const app::CSettings& settings = *app::CurrentSettings();
@@ -72,12 +86,15 @@ void CopyFromCamera(CMainFrame& frame)
             kept->aviItemId = numbers.clip;
         }
     });
-    QObject::connect(dialog, &CCameraDialog::Ended, &frame, [&frame](int copied, bool kept) {
-        if (copied > 0)
-            frame.Status()->showMessage(Counted(StringId::cameraCopied, copied), 10'000);
-        if (kept)
-            frame.Tell(Text(StringId::cameraKept));
-    });
+    QObject::connect(dialog, &CCameraDialog::Ended, &frame,
+                     [&frame](int copied, bool kept, const std::vector<std::string>& leftOut) {
+                         if (copied > 0)
+                             frame.Status()->showMessage(Counted(StringId::cameraCopied, copied), 10'000);
+                         if (kept)
+                             frame.Tell(Text(StringId::cameraKept));
+                         if (!leftOut.empty())
+                             TellLeftOut(frame, leftOut);
+                     });
     dialog->open();
 }
 
