@@ -65,6 +65,8 @@ enum class CommandId {
     changeTimeStamp,
     convertTone,
     uploadToPc,
+    uploadRings,
+    uploadAnimations,
     downloadToMobile,
     messageCenter,
     pim,

@@ -28,6 +28,7 @@ enum class FileTask {
     changeTimes,
     setTexts,
     makeTones,
+    removeFromHandset,  // files that came from it, on the handset only
 };
 
 enum class UndoAction {

@@ -102,8 +102,7 @@ public:
     CProgressBar(const CProgressBar&) = delete;
     CProgressBar& operator=(const CProgressBar&) = delete;
     void Advance() { ShowDone(done + 1); }
-    // `percent` of the next item as well.
-    void ShowDone(std::size_t count, int percent = 0);
+    void ShowDone(std::size_t count);
 
 private:
     bool enabled = false;

@@ -35,6 +35,8 @@ public:
 
     std::size_t Position() const { return next; }
     std::size_t Count() const { return files.size(); }
+    // The file that the next step is about; empty at the end.
+    std::string PathInWork() const { return next < files.size() ? files[next] : std::string(); }
     const std::vector<std::string>& FailedPaths() const { return failedPaths; }
     // Why the last of them stayed there, in English.
     const std::string& Reason() const { return reason; }

@@ -130,15 +130,19 @@ bool CHandsetFetch::Start()
     return total >= 1;
 }
 
-CHandsetFetch::Category& CHandsetFetch::NextCategory(int& position)
+std::size_t CHandsetFetch::NextCategory(int& position) const
 {
     position = fetched;
-    for (Category& category : categories) {
-        if (position < category.count)
-            return category;
-        position -= category.count;
-    }
-    return categories.back();
+    std::size_t category = 0;
+    while (category + 1 < categories.size() && position >= categories[category].count)
+        position -= categories[category++].count;
+    return category;
+}
+
+platform::FileDataType CHandsetFetch::TypeInWork() const
+{
+    int position = 0;
+    return categories[NextCategory(position)].type;
 }
 
 bool CHandsetFetch::Step()
@@ -147,7 +151,7 @@ bool CHandsetFetch::Step()
         return false;
     host.ShowCounter(fetched + 1, total);
     int position = 0;
-    Category& category = NextCategory(position);
+    Category& category = categories[NextCategory(position)];
     if (!Fetch(category, position))
         return false;
     ++fetched;

@@ -35,6 +35,7 @@ public:
     // Counts the files as well, and makes the folders.
     bool Start() override;
     bool Step() override;
+    platform::FileDataType TypeInWork() const override;
 
     int Position() const { return fetched; }
     int Count() const { return total; }
@@ -52,7 +53,7 @@ private:
     bool MakeFolders();
     void CountFiles(Category& category);
     // The category of the next file; `position` becomes the file's among its own, from 0.
-    Category& NextCategory(int& position);
+    std::size_t NextCategory(int& position) const;
     bool Fetch(Category& category, int position);
 
     std::vector<Category> categories;  // in the order in which they are fetched

@@ -22,6 +22,11 @@ bool CHandsetSend::Start()
     return Connect();
 }
 
+platform::FileDataType CHandsetSend::TypeInWork() const
+{
+    return index < sources.size() ? DataTypeOf(sources[index]) : platform::FileDataType::photo;
+}
+
 bool CHandsetSend::Step()
 {
     if (index >= sources.size() || failed || IsCancelled())

@@ -19,6 +19,7 @@ public:
 
     bool Start() override;
     bool Step() override;
+    platform::FileDataType TypeInWork() const override;
 
     // How many files have been sent.
     std::size_t Position() const { return index; }

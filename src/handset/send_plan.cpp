@@ -6,6 +6,8 @@
 #include "browser/media_types.h"
 #include "platform/file_system.h"
 
+#include <set>
+
 namespace handset
 {
 
@@ -39,6 +41,17 @@ void PlanProgram(SendPlan& plan)
 }
 
 }  // namespace
+
+std::vector<std::string> WithoutArchives(std::vector<std::string> paths)
+{
+    std::set<std::string> archives;
+    for (const std::string& path : paths) {
+        if (DataTypeOf(path) == platform::FileDataType::java)
+            archives.insert(ArchiveOf(path));
+    }
+    std::erase_if(paths, [&](const std::string& path) { return archives.contains(path); });
+    return paths;
+}
 
 SendPlan PlanSending(const std::string& path, CHandsetPreparation& preparation)
 {

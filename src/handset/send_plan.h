@@ -39,4 +39,7 @@ struct SendPlan {
 // Takes as long as the preparation of the file.
 SendPlan PlanSending(const std::string& path, CHandsetPreparation& preparation);
 
+// The paths without those archives whose descriptor is among them: it takes its archive along.
+std::vector<std::string> WithoutArchives(std::vector<std::string> paths);
+
 }  // namespace handset

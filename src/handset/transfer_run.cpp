@@ -9,42 +9,13 @@ namespace handset
 
 using platform::StringId;
 
-namespace
-{
-
-std::unique_ptr<platform::CUpDownLoad> LinkAt(unsigned port)
+std::unique_ptr<platform::CUpDownLoad> CTransferRun::NewLink() const
 {
     std::unique_ptr<platform::CUpDownLoad> link =
         platform::Os().handset ? platform::Os().handset->NewUpDownLoad() : nullptr;
     if (link)
         link->SetConnectPort(port);
     return link;
-}
-
-HandsetAnswer Ask(platform::CUpDownLoad* link)
-{
-    HandsetAnswer answer;
-    if (!link)
-        return answer;
-    answer.isThere = link->ATInit() == platform::kHandsetDone;
-    answer.reason = link->LastError();
-    answer.model = link->Manufacturer();
-    if (!answer.model.empty() && !link->Model().empty())
-        answer.model += ' ';
-    answer.model += link->Model();
-    return answer;
-}
-
-}  // namespace
-
-HandsetAnswer AskHandset(unsigned port)
-{
-    return Ask(LinkAt(port).get());
-}
-
-std::unique_ptr<platform::CUpDownLoad> CTransferRun::NewLink() const
-{
-    return LinkAt(port);
 }
 
 bool CTransferRun::Connect()
@@ -55,11 +26,29 @@ bool CTransferRun::Connect()
         const std::lock_guard lock(guard);
         held = std::move(link);
     }
-    const HandsetAnswer answer = Ask(opened);
-    model = answer.model;
-    if (!answer.isThere && !cancelled)
-        host.ShowStatus(StringId::handsetNoHandset, answer.reason);
-    return answer.isThere;
+    if (!opened || opened->ATInit() != platform::kHandsetDone) {
+        if (!cancelled)
+            host.ShowStatus(StringId::handsetNoHandset, opened ? opened->LastError() : "");
+        return false;
+    }
+    model = opened->Manufacturer();
+    if (!model.empty() && !opened->Model().empty())
+        model += ' ';
+    model += opened->Model();
+    return true;
+}
+
+void CTransferRun::LetGo()
+{
+    const std::lock_guard lock(guard);
+    held.reset();
+}
+
+bool CHandsetLook::Start()
+{
+    const bool isThere = Connect();
+    LetGo();
+    return isThere;
 }
 
 void CTransferRun::Fail(StringId text, const std::string& reason)
@@ -92,10 +81,7 @@ void CTransferRun::Cancel()
 
 TransferEnd CTransferRun::Finish()
 {
-    {
-        const std::lock_guard lock(guard);
-        held.reset();
-    }
+    LetGo();
     if (failed)
         return TransferEnd::failed;
     if (IsWhole()) {
@@ -104,7 +90,7 @@ TransferEnd CTransferRun::Finish()
     }
     if (!cancelled)
         return TransferEnd::stopped;
-    host.ShowMessage(StringId::handsetCancelled, {});
+    TellCancelled();
     return TransferEnd::cancelled;
 }
 

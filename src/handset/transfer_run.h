@@ -46,16 +46,6 @@ struct TransferredFile {
     int result = platform::kHandsetFailed;  // one of HandsetResult
 };
 
-// What a look for the handset has found.
-struct HandsetAnswer {
-    bool isThere = false;
-    std::string model;   // with its maker before it; empty when the handset does not say
-    std::string reason;  // why it is not there, in English
-};
-
-// Takes up to 10 s.
-HandsetAnswer AskHandset(unsigned port);
-
 class CTransferRun
 {
 public:
@@ -73,6 +63,9 @@ public:
     // On any thread: gives up, in the middle of a file too.
     void Cancel();
     bool IsCancelled() const { return cancelled; }
+
+    // What the file in work is. On the transfer's thread.
+    virtual platform::FileDataType TypeInWork() const = 0;
 
     // In the order of the transfer; those that were not begun are not among them.
     const std::vector<TransferredFile>& Files() const { return files; }
@@ -97,12 +90,31 @@ protected:
     CTransferHost& host;
     bool failed = false;
 
+    // Lets go of the handset.
+    void LetGo();
+    virtual void TellCancelled() { host.ShowMessage(platform::StringId::handsetCancelled, {}); }
+
 private:
     std::vector<TransferredFile> files;
     std::string model;
     std::atomic<bool> cancelled = false;
     std::mutex guard;
     std::unique_ptr<platform::CUpDownLoad> held;  // keeps the connection from one file to the next
+};
+
+// A look whether the handset is there, and which it is; it transfers nothing.
+class CHandsetLook final : public CTransferRun
+{
+public:
+    CHandsetLook(unsigned portNumber, CTransferHost& shownBy) : CTransferRun(portNumber, shownBy) {}
+
+    bool Start() override;
+    bool Step() override { return false; }
+    platform::FileDataType TypeInWork() const override { return {}; }
+
+private:
+    bool IsWhole() const override { return false; }
+    void TellCancelled() override {}
 };
 
 }  // namespace handset

@@ -60,7 +60,7 @@ CMainFrame::CMainFrame(const app::CKelvoApp& application, app::CDataFolders& dat
           this)),
       fileCommands(router, *this), editCommands(router, *this), viewCommands(router, *this),
       toolCommands(router, *this), helpCommands(router, *this), batchCommands(router, *this),
-      toneCommands(router, *this)
+      toneCommands(router, *this), handsetCommands(router, *this)
 {
     UseSkin(owner.SkinFolder());
     LoadSettings();

@@ -18,6 +18,7 @@
 #include "ui/frame/context_menus.h"
 #include "ui/frame/focus_walk.h"
 #include "ui/frame/frame_bars.h"
+#include "ui/handset/handset_commands.h"
 #include "ui/ie_shell_list_view.h"
 #include "ui/left_view.h"
 #include "ui/main_menu.h"
@@ -117,6 +118,7 @@ private:
     CHelpCommands helpCommands;
     CBatchCommands batchCommands;
     CToneCommands toneCommands;
+    CHandsetCommands handsetCommands;
 };
 
 }  // namespace ui

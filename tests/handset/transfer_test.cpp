@@ -237,6 +237,9 @@ TEST_F(Transfer, APlanTellsWhatWillBeSentAndMakesNothing)
         EXPECT_EQ(plan.sentAs, one.sentAs);
         EXPECT_EQ(plan.size, one.size);
     }
+    const Lines program = {services.folder.Path("good.jar"), services.folder.Path("good.jad"),
+                           services.folder.Path("other.jar")};
+    EXPECT_THAT(handset::WithoutArchives(program), ElementsAre(program[1], program[2]));
     EXPECT_EQ(handset::PlanSending(services.folder.Path("."), preparation).verdict, SendVerdict::notAFile);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(services.folder.Path(".")), {}), before);
     EXPECT_FALSE(HasTemporaryFiles());

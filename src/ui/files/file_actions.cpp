@@ -184,15 +184,23 @@ void CFileActions::Transfer(const FileTransfer& transfer, const std::string& fol
     Start({task, transfer.paths, folder, {}, {}});
 }
 
+bool CFileActions::IsAskedElsewhere(FileTask task, const std::vector<std::string>& paths) const
+{
+    return Focus() == Place::list && askBeforeDelete && askBeforeDelete(task, paths);
+}
+
 void CFileActions::Delete()
 {
-    if (std::vector<std::string> paths = Chosen(); !paths.empty())
+    std::vector<std::string> paths = Chosen();
+    if (!paths.empty() && !IsAskedElsewhere(FileTask::trash, paths))
         Start({FileTask::trash, std::move(paths), {}, {}, {}});
 }
 
 void CFileActions::DeleteForGood()
 {
     const std::vector<std::string> paths = Chosen();
+    if (!paths.empty() && IsAskedElsewhere(FileTask::remove, paths))
+        return;
     if (paths.size() == 1)
         AskToRemove(paths, Text(StringId::filesAskRemoveName, Shown(browser::FileName(paths.front()))));
     else if (!paths.empty())

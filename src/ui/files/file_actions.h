@@ -14,6 +14,7 @@
 #include <QPointer>
 
 #include <deque>
+#include <functional>
 #include <set>
 
 class QMenu;
@@ -43,6 +44,9 @@ public:
     void Delete();
     // After a question.
     void DeleteForGood();
+    // Who asks first before selected files are deleted (the task is trash or remove), and sees to it then;
+    // false leaves it to the usual way.
+    std::function<bool(browser::FileTask task, const std::vector<std::string>& paths)> askBeforeDelete;
     // Of the current item, in place; of several selected ones, whoever hears SeveralToRename.
     void Rename();
     void NewFolder();
@@ -90,6 +94,7 @@ private:
     void PasteInto(const std::string& folder);
     void PastePicture(const std::string& folder);
     void Transfer(const FileTransfer& transfer, const std::string& folder);
+    bool IsAskedElsewhere(browser::FileTask task, const std::vector<std::string>& paths) const;
     void AskToRemove(const std::vector<std::string>& paths, const QString& question);
     void RenameIn(QWidget* viewport, const QRect& place, const std::string& path);
     void RenameInList();

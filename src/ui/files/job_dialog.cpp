@@ -48,6 +48,8 @@ QString Heading(browser::FileTask task, std::size_t items)
         return Text(StringId::filesMakingFile);
     case browser::FileTask::makeTones:
         return Counted(StringId::toneMaking, count);
+    case browser::FileTask::removeFromHandset:
+        return Text(StringId::handsetDeleting);
     case browser::FileTask::undo:
         return Counted(StringId::filesUndoing, count);
     }

@@ -69,6 +69,8 @@ QString Heading(FileTask task, qint64 count)
         return Text(StringId::filesNoFileMade);
     case FileTask::makeTones:
         return Counted(StringId::toneNotMade, count);
+    case FileTask::removeFromHandset:
+        return Text(StringId::handsetDeleteFailed);
     case FileTask::undo:
         return Counted(StringId::filesNotUndone, count);
     }
