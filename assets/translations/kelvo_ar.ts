@@ -1639,23 +1639,23 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <translation type="unfinished">هل يُحذف من الهاتف أيضًا؟</translation>
   </message>
   <message id="handsetDeleteAsk" numerus="yes">
-   <source>Delete these %1 files?</source>
+   <source>Delete %1 files?</source>
    <translation type="unfinished">
-    <numerusform>لا ملفات للحذف.</numerusform>
-    <numerusform>هل تحذف هذا الملف؟</numerusform>
-    <numerusform>هل تحذف هذين الملفين؟</numerusform>
-    <numerusform>هل تحذف هذه الملفات (%1)؟</numerusform>
-    <numerusform>هل تحذف هذه الملفات (%1)؟</numerusform>
-    <numerusform>هل تحذف هذه الملفات (%1)؟</numerusform>
+    <numerusform>لا ملفات للحذف (%1).</numerusform>
+    <numerusform>هل تحذف %1 ملف؟</numerusform>
+    <numerusform>هل تحذف ملفين (%1)؟</numerusform>
+    <numerusform>هل تحذف %1 ملفات؟</numerusform>
+    <numerusform>هل تحذف %1 ملفًا؟</numerusform>
+    <numerusform>هل تحذف %1 ملف؟</numerusform>
    </translation>
   </message>
   <message id="handsetDeleteWhy">
-   <source>They came from the handset. On this computer they go to the trash.</source>
-   <translation type="unfinished">جاءت من الهاتف. على هذا الحاسوب تُنقل إلى سلة المهملات.</translation>
+   <source>What lies in this folder came from the handset. On this computer, what is deleted goes to the trash.</source>
+   <translation type="unfinished">ما في هذا المجلد جاء من الهاتف. على هذا الحاسوب يُنقل المحذوف إلى سلة المهملات.</translation>
   </message>
   <message id="handsetDeleteWhyForGood">
-   <source>They came from the handset. On this computer they are gone for good.</source>
-   <translation type="unfinished">جاءت من الهاتف. على هذا الحاسوب تُحذف نهائيًا.</translation>
+   <source>What lies in this folder came from the handset. On this computer, what is deleted is gone for good.</source>
+   <translation type="unfinished">ما في هذا المجلد جاء من الهاتف. على هذا الحاسوب يُحذف نهائيًا.</translation>
   </message>
   <message id="handsetDeleting">
    <source>Removing from the handset</source>

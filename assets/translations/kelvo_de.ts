@@ -1507,19 +1507,19 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <translation type="unfinished">Auch vom Handy löschen?</translation>
   </message>
   <message id="handsetDeleteAsk" numerus="yes">
-   <source>Delete these %1 files?</source>
+   <source>Delete %1 files?</source>
    <translation type="unfinished">
-    <numerusform>Diese Datei löschen?</numerusform>
-    <numerusform>Diese %1 Dateien löschen?</numerusform>
+    <numerusform>%1 Datei löschen?</numerusform>
+    <numerusform>%1 Dateien löschen?</numerusform>
    </translation>
   </message>
   <message id="handsetDeleteWhy">
-   <source>They came from the handset. On this computer they go to the trash.</source>
-   <translation type="unfinished">Sie kommen vom Handy. Auf diesem Computer gehen sie in den Papierkorb.</translation>
+   <source>What lies in this folder came from the handset. On this computer, what is deleted goes to the trash.</source>
+   <translation type="unfinished">Was in diesem Ordner liegt, kommt vom Handy. Auf diesem Computer geht Gelöschtes in den Papierkorb.</translation>
   </message>
   <message id="handsetDeleteWhyForGood">
-   <source>They came from the handset. On this computer they are gone for good.</source>
-   <translation type="unfinished">Sie kommen vom Handy. Auf diesem Computer sind sie dann endgültig gelöscht.</translation>
+   <source>What lies in this folder came from the handset. On this computer, what is deleted is gone for good.</source>
+   <translation type="unfinished">Was in diesem Ordner liegt, kommt vom Handy. Auf diesem Computer ist Gelöschtes endgültig weg.</translation>
   </message>
   <message id="handsetDeleting">
    <source>Removing from the handset</source>

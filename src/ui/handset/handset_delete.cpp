@@ -77,7 +77,7 @@ bool CHandsetDelete::Ask(browser::FileTask task, const std::vector<std::string>&
     const Order order{task, paths, app::HandsetFolderClass(frame.Folders(), folder),
                       port > 0 ? static_cast<unsigned>(port) : 0};
     auto* box =
-        new CMessageBox(QMessageBox::Question, Text(StringId::filesAskTitle),
+        new CMessageBox(QMessageBox::Question, Text(StringId::commandDelete),
                         Counted(StringId::handsetDeleteAsk, static_cast<qint64>(paths.size())), &frame);
     box->setInformativeText(Text(task == browser::FileTask::remove ? StringId::handsetDeleteWhyForGood
                                                                    : StringId::handsetDeleteWhy));

@@ -115,6 +115,11 @@ void CTransferDialog::SetStatus(const QString& text, const QString& reason)
     status->setText(text);
     why->setText(reason);
     why->setVisible(!reason.isEmpty());
+    if (!layout())
+        return;
+    // The text may need more lines than the one before it.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
 
 void CTransferDialog::ShowBars(bool shown)
