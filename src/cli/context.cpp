@@ -207,10 +207,11 @@ CProgressBar::CProgressBar(const CContext& context, std::size_t count)
 {
 }
 
-void CProgressBar::ShowDone(std::size_t count)
+void CProgressBar::ShowDone(std::size_t count, int percentOfNext)
 {
     done = count;
-    const int percent = total == 0 ? 100 : static_cast<int>(done * 100 / total);
+    const int percent =
+        total == 0 ? 100 : static_cast<int>((done * 100 + static_cast<std::size_t>(percentOfNext)) / total);
     if (!enabled || percent == shownPercent ||
         std::chrono::steady_clock::now() - start < std::chrono::seconds(1)) {
         return;

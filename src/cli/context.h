@@ -102,7 +102,8 @@ public:
     CProgressBar(const CProgressBar&) = delete;
     CProgressBar& operator=(const CProgressBar&) = delete;
     void Advance() { ShowDone(done + 1); }
-    void ShowDone(std::size_t count);
+    // `percent` of the next item as well.
+    void ShowDone(std::size_t count, int percent = 0);
 
 private:
     bool enabled = false;

@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings.h"
 #include "app/string_table.h"
-#include "cli/commands.h"
+#include "cli/handset_commands.h"
 #include "cli/interruption_guard.h"
 #include "handset/handset_deletion.h"
 
 #include <fmt/format.h>
 
+#include <array>
 #include <cstdlib>
 
 namespace cli
@@ -20,58 +21,31 @@ using handset::FolderClass;
 using platform::FileDataType;
 using platform::StringId;
 
-constexpr const char* kHandset = "handset";
-
 struct HandsetArguments {
-    unsigned port = 0;
-    std::string device;
     int type = 0;
     std::vector<std::string> files;
 };
 
-// The port to work with. A device that was named stands behind a port number that nothing else has.
-unsigned PortOf(CContext& context, const HandsetArguments& arguments)
-{
-    if (!arguments.device.empty()) {
-        setenv("KELVO_PORT_0", AbsolutePath(arguments.device).c_str(), 1);
-        return 0;
-    }
-    return arguments.port != 0
-               ? arguments.port
-               : static_cast<unsigned>(app::HandsetPort(context.Application().ProgramFolder()));
-}
-
-// A message that the window would show, and more about it.
-std::string Tell(CContext& context, StringId text, const std::string& reason)
-{
-    const std::string message = app::Strings().LoadString(text);
-    context.Fail(kHandset, message);
-    if (!reason.empty()) {
-        context.Fail(kHandset, reason);
-    }
-    return message;
-}
-
 // Calls `work` with the handset when it answers; whether it does.
-bool WithHandset(CContext& context, const HandsetArguments& arguments,
+bool WithHandset(CContext& context, const HandsetPort& port,
                  const std::function<void(platform::CUpDownLoad&)>& work)
 {
     const auto link = platform::Os().handset->NewUpDownLoad();
-    link->SetConnectPort(PortOf(context, arguments));
+    link->SetConnectPort(port.Number(context));
     const CInterruptionGuard guard([&link] { link->Abort(); });
     if (link->ATInit() != platform::kHandsetDone) {
-        Tell(context, StringId::handsetNoHandset, link->LastError());
+        TellFailure(context, StringId::handsetNoHandset, link->LastError());
         return false;
     }
     work(*link);
     return true;
 }
 
-void RunIdentify(CContext& context, const HandsetArguments& arguments)
+void RunIdentify(CContext& context, const HandsetPort& port)
 {
     std::string manufacturer;
     std::string model;
-    const bool answers = WithHandset(context, arguments, [&](platform::CUpDownLoad& link) {
+    const bool answers = WithHandset(context, port, [&](platform::CUpDownLoad& link) {
         manufacturer = link.Manufacturer();
         model = link.Model();
         context.PrintLine(manufacturer + "\t" + model);
@@ -79,10 +53,10 @@ void RunIdentify(CContext& context, const HandsetArguments& arguments)
     context.PrintJson({{"result", answers}, {"manufacturer", manufacturer}, {"model", model}});
 }
 
-void RunCount(CContext& context, const HandsetArguments& arguments)
+void RunCount(CContext& context, const HandsetPort& port, const HandsetArguments& arguments)
 {
     int count = -1;
-    WithHandset(context, arguments, [&](platform::CUpDownLoad& link) {
+    WithHandset(context, port, [&](platform::CUpDownLoad& link) {
         count = link.GetFileCount(static_cast<FileDataType>(arguments.type));
         if (count < 0) {
             context.Fail(kHandset, link.LastError());
@@ -93,9 +67,9 @@ void RunCount(CContext& context, const HandsetArguments& arguments)
     context.PrintJson(count);
 }
 
-void RunDelete(CContext& context, const HandsetArguments& arguments)
+void RunDelete(CContext& context, const HandsetPort& port, const HandsetArguments& arguments)
 {
-    const unsigned port = PortOf(context, arguments);
+    const unsigned number = port.Number(context);
     std::array<std::vector<std::string>, 2> paths;
     for (const std::string& path : AbsolutePaths(arguments.files)) {
         paths[handset::ClassOfFolder(path) == FolderClass::ring ? 1 : 0].push_back(path);
@@ -104,7 +78,7 @@ void RunDelete(CContext& context, const HandsetArguments& arguments)
     CProgressBar bar(context, arguments.files.size());
     for (const FolderClass folderClass : {FolderClass::other, FolderClass::ring}) {
         handset::CHandsetDeletion deletion(paths[folderClass == FolderClass::ring ? 1 : 0], folderClass,
-                                           port);
+                                           number);
         for (std::size_t failed = 0; Interruption() == 0 && deletion.Step(); bar.Advance()) {
             if (deletion.FailedPaths().size() > failed) {
                 context.Fail(deletion.FailedPaths()[failed++], deletion.Reason());
@@ -113,25 +87,45 @@ void RunDelete(CContext& context, const HandsetArguments& arguments)
         message = deletion.Message() == StringId::none ? message : deletion.Message();
     }
     const bool failed = message != StringId::none;
-    const std::string text = failed ? Tell(context, message, {}) : "";
+    const std::string text = failed ? TellFailure(context, message, {}) : "";
     context.PrintJson({{"failed", failed}, {"message", failed ? Json(text) : Json(nullptr)}});
 }
 
 }  // namespace
 
+unsigned HandsetPort::Number(CContext& context) const
+{
+    if (!device.empty()) {
+        setenv("KELVO_PORT_0", AbsolutePath(device).c_str(), 1);
+        return 0;
+    }
+    return number != 0 ? number
+                       : static_cast<unsigned>(app::HandsetPort(context.Application().ProgramFolder()));
+}
+
+std::string TellFailure(CContext& context, StringId text, const std::string& reason)
+{
+    const std::string message = app::Strings().LoadString(text);
+    context.Fail(kHandset, message);
+    if (!reason.empty()) {
+        context.Fail(kHandset, reason);
+    }
+    return message;
+}
+
 void AddHandsetCommand(CLI::App& parser, CContext& context)
 {
-    auto arguments = std::make_shared<HandsetArguments>();
+    auto port = std::make_shared<HandsetPort>();
     auto* command = parser.add_subcommand(kHandset, "The handset at a serial line");
     command->require_subcommand(1);
     command->fallthrough();
-    auto* port = command->add_option("--port", arguments->port, "A port number instead of that of Port.ini")
-                     ->check(CLI::Range(1, 255));
-    command->add_option("--device", arguments->device, "A serial device, such as /dev/ttyUSB0")
-        ->excludes(port);
+    auto* number = command->add_option("--port", port->number, "A port number instead of that of Port.ini")
+                       ->check(CLI::Range(1, 255));
+    command->add_option("--device", port->device, "A serial device, such as /dev/ttyUSB0")->excludes(number);
 
+    auto arguments = std::make_shared<HandsetArguments>();
     auto* identify = command->add_subcommand("identify", "Print the handset's maker and model");
-    identify->callback([&context, arguments] { RunIdentify(context, *arguments); });
+    identify->callback([&context, port] { RunIdentify(context, *port); });
 
     auto* count = command->add_subcommand("count", "Print how many files of a type it holds");
     count
@@ -144,13 +138,15 @@ void AddHandsetCommand(CLI::App& parser, CContext& context)
                                                                        {"ring", 7},
                                                                        {"java", 8},
                                                                        {"frame", 9}}));
-    count->callback([&context, arguments] { RunCount(context, *arguments); });
+    count->callback([&context, port, arguments] { RunCount(context, *port, *arguments); });
+
+    AddHandsetTransfers(*command, context, port);
 
     auto* deletion = command->add_subcommand(
         "delete", "Delete files on it that were fetched from it; those on this side stay");
     deletion->add_option("FILE", arguments->files, "The fetched files, in the folders that received them")
         ->required();
-    deletion->callback([&context, arguments] { RunDelete(context, *arguments); });
+    deletion->callback([&context, port, arguments] { RunDelete(context, *port, *arguments); });
 }
 
 }  // namespace cli

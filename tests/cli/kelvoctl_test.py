@@ -6,36 +6,18 @@ import os
 import signal
 import struct
 import subprocess
-import sys
-import tempfile
 import unittest
 import wave
 import zlib
 from pathlib import Path
 
-KELVOCTL = sys.argv.pop(1)
+from command_case import KELVOCTL, CommandCase
+
 CAMERA = Path(__file__).parents[2] / "fuzz/corpus/exif"
 SAMPLES = Path(KELVOCTL).parent.parent / "share/kelvo/My Favorite/Photo/Sample"
 
 
-class Kelvoctl(unittest.TestCase):
-    def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
-        self.home = Path(self.folder.name) / "home"
-        self.work = Path(self.folder.name) / "work"
-        self.home.mkdir()
-        self.work.mkdir()
-        self.env = {"HOME": str(self.home), "PATH": os.environ["PATH"]}
-
-    def run_it(self, *words, status=0):
-        done = subprocess.run([KELVOCTL, *words], env=self.env, cwd=self.work, capture_output=True, timeout=60)
-        self.assertEqual(done.returncode, status, (words, done.stdout, done.stderr))
-        return done
-
-    def json(self, *words, status=0):
-        return json.loads(self.run_it("--json", *words, status=status).stdout)
-
+class Kelvoctl(CommandCase):
     def photos(self, *names):
         sample = sorted(SAMPLES.glob("*.jpg"))[0].read_bytes()
         for name in names:

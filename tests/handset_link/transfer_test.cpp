@@ -4,7 +4,9 @@
 #include "platform_linux/services.h"
 #include "simulator.h"
 #include "suite/handset/handset_library.h"
+#include "suite/handset/handset_session.h"
 #include "support/services_guard.h"
+#include "support/test_services.h"
 
 #include <gmock/gmock.h>
 
@@ -265,6 +267,32 @@ TEST_F(Transfer, APortWithoutALineFails)
     EXPECT_EQ(link->GetFileCount(FileDataType::ring), -1);
     EXPECT_EQ(link->DeleteFileMobile(FileDataType::ring, 1), 0);
     EXPECT_EQ(link->LastError(), "no line is known for port 4");
+}
+
+TEST_F(Transfer, FoldersOfTheModelComeBeforeThoseOfAllAndTheInstalledFileShowsTheDefaults)
+{
+    support::CTestUtility utility(*platform::Os().profiles);
+    platform::Os().utility = &utility;
+    utility.programFolder = folder.Path();
+    std::vector<std::string> defaults;
+    for (int type = 1; type < 10; ++type)
+        defaults.push_back(suite::HandsetFolder(static_cast<FileDataType>(type), ""));
+    std::string installed = support::ReadBytes(KELVO_HANDSET_INI);
+    for (std::size_t at = installed.find("\n;"); at != std::string::npos;
+         at = installed.find("\n;", at + 1)) {
+        if (isdigit(installed.at(at + 2)))
+            installed.erase(at + 1, 1);
+    }
+    folder.Make("Handset.ini", installed);
+    for (int type = 1; type < 10; ++type)
+        EXPECT_EQ(suite::HandsetFolder(static_cast<FileDataType>(type), "Other"), defaults[type - 1]);
+
+    folder.Make("Handset.ini", "[Folders]\n7=Frame\n6=Frame\n[folders TESSA 1]\n7=//My Album/deep/\n");
+    std::filesystem::create_directory(simulator.root.Path("My Album/deep"));
+    EXPECT_EQ(Send(folder.Make("a.mmf", "a"), FileDataType::ring), 1) << error;
+    EXPECT_EQ(Send(folder.Make("b.jpg", "b")), 1) << error;
+    EXPECT_EQ(support::ReadBytes(simulator.root.Path("My Album/deep/a.mmf")), "a");
+    EXPECT_EQ(support::ReadBytes(simulator.root.Path("Frame/b.jpg")), "b");
 }
 
 TEST_F(Transfer, ALineThatCannotBeHadSaysWhichItIsAndWhatToDo)
