@@ -18,5 +18,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!sound)
             std::abort();
     }
+    suite::ReadFreeSpace({reinterpret_cast<const char*>(data), size});
     return 0;
 }

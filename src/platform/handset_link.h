@@ -5,12 +5,14 @@
 //
 // One object per operation, used by one thread: SetConnectPort, then ATInit, then the operation. All objects
 // of one port share one connection, which ends with the last of them; a run of many files therefore holds one
-// object from its start to its end. Whatever needs the connection while there is none begins with ATInit.
+// object from its start to its end. Whatever needs the connection while there is none begins with ATInit; when
+// nobody answered that, all but another ATInit fail at once.
 //
 // Every call returns within its time-outs, whatever the handset does: an unplugged cable is noticed within a
 // second, silence within 30. Results are those of HandsetResult, but for GetFileCount; a result that is
 // neither 1 nor -2 is a failure, after which the connection is made anew with the next operation. Nothing of
-// a transfer that failed stays on this side.
+// a transfer that failed stays on this side; what a handset keeps of one goes before the next sending of that
+// file.
 #pragma once
 
 #include "platform/services.h"

@@ -12,7 +12,9 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <thread>
 
 namespace
@@ -26,7 +28,7 @@ std::vector<int> percentages;
 platform::CUpDownLoad* toAbort = nullptr;
 
 // For silence that is meant; all else has the time that it needs.
-constexpr suite::LinePatience kImpatience{100, 100, 100, 50, 400, 400};
+constexpr suite::LinePatience kImpatience{100, 100, 100, 50, 100, 400, 400};
 
 std::string Noise(std::size_t size)
 {
@@ -165,18 +167,33 @@ TEST_F(Transfer, AFaultAnywhereLeavesNothingAndTheNextTransferWorks)
         {"connect:0:unplug", 0, 0},
         {"connect:0:stall", 0, 0, true},
         {"path:0:unplug", 0, 0},
+        {"path:0:stall", 0, 0, true},
         {"path:0:0x41", 0, 0},
+        {"connect:0:0x43", 0, 0},
         {"put:0:unplug", 0, 1},
         {"put:30000:unplug", 0, 1},
         {"put:30000:stall", 0, 1, true},
+        {"put:0:stall", 0, 1, true},
+        {"put:60000:unplug", 0, 1},
+        {"put:0:0x60", -2, 1},
         {"put:30000:0x60", -2, 1},
+        {"put:30000:0x50", -2, 1},
+        {"put:30000:0x50 room:0:0x44", 0, 1},
+        {"put:30000:0x50 room:50:unplug", 0, 1},
         {"put:30000:0x4D", -2, 1},
         {"put:30000:0x43", 0, 1},
         {"list:0:0x61", 1, 0},
         {"list:50:unplug", 1, 0},
+        {"list:0:stall", 1, 0, true},
+        {"endless", 1, 0},
+        {"get:0:stall", 1, 0, true},
         {"get:0:0x44", 1, 0},
         {"get:30000:unplug", 1, 0},
         {"get:30000:stall", 1, 0, true},
+        {"get:60000:unplug", 1, 0},
+        {"leave:0:unplug", 1, 1},
+        {"leave:0:stall", 1, 1},
+        {"threewire", 1, 1},
         {"split:1", 1, 1},
         {"slow:9000000", 1, 1},
     };
@@ -205,6 +222,60 @@ TEST_F(Transfer, AFaultAnywhereLeavesNothingAndTheNextTransferWorks)
             std::filesystem::remove(folder.Path(name));
     }
     EXPECT_TRUE(support::ReadBytes(path) == bytes);
+}
+
+TEST_F(Transfer, WhatAHandsetKeptOfAFileGoesBeforeTheNextSendingOfIt)
+{
+    support::CTempFolder source;
+    const std::string path = source.Make("a.jpg", Noise(60'000));
+    simulator.SetFaults("put:30000:unplug");
+    EXPECT_EQ(Send(path), 0);
+    simulator.SetFaults("keep");
+    support::WriteBytes(simulator.root.Path("My Album/a.jpg"), Noise(30'000));
+
+    EXPECT_EQ(Send(path), 1) << error;
+    EXPECT_EQ(Send(path), 0) << "what is whole is left to the handset";
+
+    EXPECT_TRUE(support::ReadBytes(simulator.root.Path("My Album/a.jpg")) == Noise(60'000));
+}
+
+TEST_F(Transfer, AnEnemysNamesAndSizesEndUpAsPlainFilesOfTheFolder)
+{
+    simulator.SetFaults("hostile");
+    const auto held = NewLink();
+    const int count = held->GetFileCount(FileDataType::photo);
+    for (int i = 0; i < count; ++i)
+        EXPECT_EQ(Fetch(i), 1) << error;
+
+    EXPECT_EQ(count, 7) << "one has a zero in its name";
+    EXPECT_THAT(FetchedNames(),
+                ElementsAre("_._.._up.jpg", "_etc_a.jpg", "_hidden", "a_b.jpg", "mobilefile (2).dbs",
+                            "mobilefile.dbs", std::string(236, 'n') + ".jpg", "_gpj.exe"));
+    EXPECT_EQ(support::ReadBytes(folder.Path("_._.._up.jpg")), "foreign");
+    EXPECT_EQ(support::ReadBytes(records).size(), 7 * handset::kRecordSize);
+}
+
+TEST_F(Transfer, AFullDiskOnThisSideIsToldApartAndLeavesNothing)
+{
+    support::WriteBytes(simulator.root.Path("My Album/a.jpg"), Noise(60'000));
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto held = NewLink();
+    ASSERT_EQ(held->ATInit(), 1) << held->LastError();
+    for (const rlim_t most : {rlim_t(0), rlim_t(30'000)}) {
+        const rlimit small{most, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        EXPECT_EQ(Fetch(0), -2);
+        setrlimit(RLIMIT_FSIZE, &before);
+        EXPECT_THAT(error, testing::HasSubstr("too large"));
+        EXPECT_THAT(FetchedNames(), IsEmpty());
+        ASSERT_EQ(held->ATInit(), 1) << held->LastError();
+    }
+
+    std::filesystem::create_directory(records);
+    EXPECT_EQ(Fetch(0), 0) << "no want of room";
+    EXPECT_THAT(FetchedNames(), ElementsAre("mobilefile.dbs"));
 }
 
 TEST_F(Transfer, OneThatIsStoppedLeavesNothingAndTheNextWorks)

@@ -143,6 +143,16 @@ std::size_t CharacterLength(std::string_view text)
                                                                                                      : 0;
 }
 
+// Whether the UTF-8 character turns the direction of writing, so that "gpj.exe" reads "exe.jpg".
+bool TurnsDirection(std::string_view character)
+{
+    constexpr std::pair<std::string_view, std::string_view> kRanges[] = {
+        {"\u200E", "\u200F"}, {"\u202A", "\u202E"}, {"\u2066", "\u2069"}};
+    return std::ranges::any_of(kRanges, [character](const auto& range) {
+        return character >= range.first && character <= range.second;
+    });
+}
+
 // Cuts the text before the character that does not fit any more.
 void CutTo(std::string& text, std::size_t most)
 {
@@ -178,13 +188,29 @@ std::vector<ListedFile> ReadFolderListing(std::string_view listing, int category
     return files;
 }
 
+std::optional<std::uint64_t> ReadFreeSpace(std::string_view capability)
+{
+    constexpr std::string_view kElement = "<Free>";
+    std::optional<std::uint64_t> most;
+    for (std::size_t at = capability.find(kElement); at != std::string_view::npos;
+         at = capability.find(kElement, at + 1)) {
+        const std::size_t start = capability.find_first_not_of(kBlanks, at + kElement.size());
+        const std::string_view number = capability.substr(std::min(start, capability.size()));
+        std::uint64_t free = 0;
+        if (std::from_chars(number.data(), number.data() + number.size(), free).ec == std::errc())
+            most = std::max(most.value_or(0), free);
+    }
+    return most;
+}
+
 std::string LocalName(std::string_view handsetName)
 {
     std::string name;
     for (std::size_t at = 0; at < handsetName.size();) {
         const std::size_t length = CharacterLength(handsetName.substr(at));
         const auto byte = static_cast<unsigned char>(handsetName[at]);
-        const bool isPlain = length > 0 && byte >= 0x20 && byte != 0x7F && byte != '/' && byte != '\\';
+        const bool isPlain = length > 0 && byte >= 0x20 && byte != 0x7F && byte != '/' && byte != '\\' &&
+                             !TurnsDirection(handsetName.substr(at, length));
         if (isPlain && !(name.empty() && byte == '.'))
             name += handsetName.substr(at, length);
         else

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,10 @@ struct ListedFile {
 // In the order of their names, each once. The index is made of the category and the name, so that it is the
 // same for as long as the file has its name; of two that would have one index, the second takes the next.
 std::vector<ListedFile> ReadFolderListing(std::string_view listing, int category);
+
+// The free bytes of the memory that has most of them, as an x-obex/capability object tells; nothing when it
+// does not.
+std::optional<std::uint64_t> ReadFreeSpace(std::string_view capability);
 
 // The name under which a file of the handset is kept on this side: at most 240 bytes of UTF-8 that names a
 // visible file and no path.

@@ -106,6 +106,8 @@ public:
 private:
     int Fail(const std::string& why);
     int SendFile(const std::string& path, CPercentage& percentage, int& code);
+    void DeleteRemains(const std::string& name);
+    bool HasNoRoomFor(std::uint64_t size, const ObexAnswer& answer);
     int Ended(const ObexAnswer& answer, int& code);
 
     CHandsetLibrary& library;
@@ -164,8 +166,39 @@ int CUpDownLoad::SendFile(const std::string& path, CPercentage& percentage, int&
         percentage.Add(wanted);
         return static_cast<int>(wanted);
     };
-    return Ended(session->Send(file.type, FileName(path), static_cast<std::uint32_t>(stamp->size), next),
-                 code);
+    const std::string name = FileName(path);
+    const std::string place = fmt::format("{}/{}/{}", port, static_cast<int>(file.type), name);
+    // Many handsets keep what has come so far, and some never replace a file.
+    if (library.TakeRemains(place))
+        DeleteRemains(name);
+    const ObexAnswer answer = session->Send(file.type, name, static_cast<std::uint32_t>(stamp->size), next);
+    if (sent > 0 && !answer.IsGood())
+        library.NoteRemains(place);
+    const int result = Ended(answer, code);
+    return result == platform::kHandsetFailed && HasNoRoomFor(stamp->size, answer) ? platform::kHandsetFull
+                                                                                   : result;
+}
+
+void CUpDownLoad::DeleteRemains(const std::string& name)
+{
+    const auto* const files = session->List(file.type, true);
+    // To ask for one that is not there would unsettle some handsets.
+    if (files && std::ranges::find(*files, name, &ListedFile::name) != files->end())
+        session->Delete(file.type, name);
+    session->SetError("");
+}
+
+// Whether that is why the handset gave an answer that says nothing.
+bool CUpDownLoad::HasNoRoomFor(std::uint64_t size, const ObexAnswer& answer)
+{
+    constexpr int kInternalError = 0x50;
+    if (answer.kind != ObexAnswer::Kind::answered || answer.code != kInternalError)
+        return false;
+    const std::string error = session->Error();
+    const std::optional<std::uint64_t> room = session->FreeSpace();
+    session->TakeAbort();
+    session->SetError(error + (room ? fmt::format(" ({} bytes are free there)", *room) : ""));
+    return room && size > *room;
 }
 
 int CUpDownLoad::StartUpload(int& code)
@@ -205,24 +238,24 @@ int CUpDownLoad::StartDownload(int& code)
     const ListedFile listed = (*files)[static_cast<std::size_t>(file.position)];
     CReceivedFile received(recordFile, LocalName(listed.name));
     if (!received.Begin())
-        return Fail(received.Error());
+        return Fail(received.Error()), received.IsFull() ? platform::kHandsetFull : platform::kHandsetFailed;
     CPercentage percentage(library, listed.size);
     const auto take = [&](std::span<const std::byte> bytes) {
         percentage.Add(bytes.size());
         return received.Add(bytes);
     };
-    const int result = Ended(session->Fetch(file.type, listed.name, take), code);
-    if (result == platform::kHandsetDone && received.Keep() &&
-        library.Host().addRecord(recordFile, received.Name(), listed.index)) {
+    int result = Ended(session->Fetch(file.type, listed.name, take), code);
+    if (result == platform::kHandsetDone && received.Keep(listed.index, library.Host().addRecord)) {
         percentage.Show(100);
         receivedPath = recordFile.substr(0, recordFile.rfind('/') + 1) + received.Name();
         return result;
     }
-    const bool failedHere = result == platform::kHandsetDone || received.IsFull();
     received.Drop();
-    if (failedHere)
+    if (!received.Error().empty() && result != platform::kHandsetCancelled) {
         session->SetError(received.Error());
-    return failedHere && result != platform::kHandsetCancelled ? platform::kHandsetFull : result;
+        result = received.IsFull() ? platform::kHandsetFull : platform::kHandsetFailed;
+    }
+    return result;
 }
 
 int CUpDownLoad::GetFileCount(FileDataType type)
@@ -265,6 +298,18 @@ int CUpDownLoad::DeleteFileMobile(FileDataType type, int index)
 std::unique_ptr<platform::CUpDownLoad> CHandsetLibrary::NewUpDownLoad()
 {
     return std::make_unique<CUpDownLoad>(*this);
+}
+
+void CHandsetLibrary::NoteRemains(const std::string& file)
+{
+    const std::lock_guard lock(guard);
+    remains.insert(file);
+}
+
+bool CHandsetLibrary::TakeRemains(const std::string& file)
+{
+    const std::lock_guard lock(guard);
+    return remains.erase(file) > 0;
 }
 
 std::shared_ptr<CHandsetSession> CHandsetLibrary::SessionOf(unsigned port)

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 
 namespace suite
 {
@@ -35,6 +36,10 @@ public:
     // The conversation at a port, which ends with the last holder; null when the port has no device.
     std::shared_ptr<CHandsetSession> SessionOf(unsigned port);
     const HandsetHost& Host() const { return host; }
+    // A file whose sending broke off: the handset may hold a piece of it. Named by `file`, any text.
+    void NoteRemains(const std::string& file);
+    // Whether there may be a piece; the file is forgotten.
+    bool TakeRemains(const std::string& file);
     void Tell(int percent) const
     {
         if (progress)
@@ -46,6 +51,7 @@ private:
     void (*progress)(int) = nullptr;
     std::mutex guard;
     std::map<unsigned, std::weak_ptr<CHandsetSession>> sessions;
+    std::set<std::string> remains;
 };
 
 }  // namespace suite

@@ -77,17 +77,19 @@ std::string HandsetFolder(FileDataType type, const std::string& model)
 
 bool CHandsetSession::Greet()
 {
-    if (obex && obex->SetPath("").IsGood()) {
+    if (obex && Checked(obex->SetPath(""), "greeting").IsGood()) {
         present.reset();
         return true;
     }
     Close();
     CAtDialogue dialogue(line, patience, [this] { return aborted.load(); });
-    if (!dialogue.Greet(device)) {
+    silent = !dialogue.Greet(device);
+    if (silent) {
         error = line.IsOpen() ? device + ": no handset answers" : line.Error();
         Close();
         return false;
     }
+    error.clear();
     manufacturer = dialogue.Manufacturer();
     model = dialogue.Model();
     return true;
@@ -97,7 +99,9 @@ bool CHandsetSession::Open()
 {
     if (obex)
         return true;
-    if (!line.IsOpen() && !Greet())
+    if (!line.IsOpen() && silent)
+        error = device + ": no handset answers";
+    if (!line.IsOpen() && (silent || !Greet()))
         return false;
     const auto stop = [this] { return aborted.load(); };
     if (!CAtDialogue(line, patience, stop).EnterObex()) {
@@ -106,11 +110,14 @@ bool CHandsetSession::Open()
         return false;
     }
     obex = MakeObexClient(line, patience, stop);
+    inStep = true;
     return Checked(obex->Connect(), "connecting").IsGood();
 }
 
 void CHandsetSession::Close()
 {
+    if (obex && inStep && line.IsOpen())
+        obex->Disconnect();
     obex.reset();
     line.Close();
     listings.clear();
@@ -122,7 +129,8 @@ ObexAnswer CHandsetSession::Checked(const ObexAnswer& answer, const std::string&
     if (answer.IsGood())
         return answer;
     error = fmt::format("{}: {}: {}", device, what, Why(answer));
-    if (answer.kind != ObexAnswer::Kind::answered)
+    inStep = answer.kind == ObexAnswer::Kind::answered;
+    if (!inStep)
         Close();
     return answer;
 }
@@ -199,6 +207,19 @@ ObexAnswer CHandsetSession::Delete(FileDataType type, const std::string& name)
     if (answer.IsGood())
         std::erase_if(listings[type], [&name](const ListedFile& file) { return file.name == name; });
     return answer;
+}
+
+std::optional<std::uint64_t> CHandsetSession::FreeSpace()
+{
+    constexpr std::size_t kLongest = 64 << 10;
+    std::string capability;
+    const auto take = [&capability](std::span<const std::byte> bytes) {
+        capability.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+        return capability.size() <= kLongest;
+    };
+    if (!Open() || !Checked(obex->Get("", "x-obex/capability", take), "asking for its room").IsGood())
+        return std::nullopt;
+    return ReadFreeSpace(capability);
 }
 
 }  // namespace suite

@@ -27,7 +27,8 @@ public:
     }
     ~CHandsetSession() { Close(); }
 
-    // Whether the handset answers now.
+    // Whether the handset answers now. One that did not is not asked again by anything else, so that a run of
+    // many files ends soon.
     bool Greet();
     // Files of a category, in the order of their names; those of the latest listing unless `fresh`. None for
     // a folder that the handset does not have; nothing when it could not be asked.
@@ -37,6 +38,8 @@ public:
                     const CObexClient::Source& source);
     ObexAnswer Fetch(platform::FileDataType type, const std::string& name, const CObexClient::Sink& sink);
     ObexAnswer Delete(platform::FileDataType type, const std::string& name);
+    // How many bytes are free on the handset, as far as it says.
+    std::optional<std::uint64_t> FreeSpace();
 
     void Abort() { aborted = true; }
     // Whether it was asked for since the last call.
@@ -60,6 +63,8 @@ private:
     std::unique_ptr<CObexClient> obex;
     std::map<platform::FileDataType, std::vector<ListedFile>> listings;
     std::optional<platform::FileDataType> present;  // whose folder the handset is in
+    bool silent = false;                            // no handset answered the latest greeting
+    bool inStep = false;                            // every request over OBEX was answered
     std::atomic<bool> aborted = false;
     std::string manufacturer, model, error;
 };

@@ -11,6 +11,7 @@ struct LinePatience {
     int text = 2000;       // to a question about itself
     int entering = 5000;   // to each way of entering OBEX
     int settling = 200;    // until it counts as entered
+    int leaving = 500;     // to a leave
     int request = 8000;    // to a request that carries no file
     int transfer = 25000;  // within one that does
 };

@@ -42,6 +42,8 @@ public:
     // A file of that name, or an object of that type where the name is empty.
     virtual ObexAnswer Get(const std::string& name, const std::string& type, const Sink& sink) = 0;
     virtual ObexAnswer Delete(const std::string& name) = 0;
+    // Takes leave, so that the other side may speak AT again. The last call.
+    virtual void Disconnect() = 0;
 };
 
 // On libopenobex. The line outlives the client.

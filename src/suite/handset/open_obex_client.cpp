@@ -36,6 +36,7 @@ public:
     ObexAnswer Put(const std::string& name, std::uint32_t length, const Source& source) override;
     ObexAnswer Get(const std::string& name, const std::string& type, const Sink& sink) override;
     ObexAnswer Delete(const std::string& name) override;
+    void Disconnect() override;
 
 private:
     static COpenObexClient& Of(void* data) { return *static_cast<COpenObexClient*>(data); }
@@ -222,6 +223,12 @@ ObexAnswer COpenObexClient::Delete(const std::string& name)
         return {ObexAnswer::Kind::gone};
     AddName(request, name);
     return Run(request, times.request);
+}
+
+void COpenObexClient::Disconnect()
+{
+    if (obex_object_t* const request = NewRequest(OBEX_CMD_DISCONNECT))
+        Run(request, times.leaving);
 }
 
 ObexAnswer COpenObexClient::Run(obex_object_t* request, int silence, bool readsStream)

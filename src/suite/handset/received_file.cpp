@@ -5,6 +5,8 @@
 #include "platform/services.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -45,14 +47,20 @@ bool CReceivedFile::Begin()
 bool CReceivedFile::Add(std::span<const std::byte> bytes)
 {
     if (!pending || bytes.size() > kLongestReceived - size || !pending->File().WriteAt(size, bytes)) {
-        full = true;
         return Fail(folder + name);
     }
     size += bytes.size();
     return true;
 }
 
-bool CReceivedFile::Keep()
+bool CReceivedFile::Keep(int index, const AddRecord& addRecord)
+{
+    if (!TakeName())
+        return false;
+    return addRecord(folder + recordName, name, index) || Fail(folder + recordName);
+}
+
+bool CReceivedFile::TakeName()
 {
     for (int number = 1; number < kMostCandidates && Candidate(number) != name; ++number) {
         if (Candidate(number) != recordName && IsSameAs(folder + Candidate(number))) {
@@ -74,9 +82,17 @@ void CReceivedFile::Drop()
 
 bool CReceivedFile::Fail(const std::string& path)
 {
-    if (error.empty())
-        error = path + ": " + Os().files->LastError();
+    if (error.empty()) {
+        reason = Os().files->LastError();
+        error = path + ": " + reason;
+    }
     return false;
+}
+
+bool CReceivedFile::IsFull() const
+{
+    constexpr int kNoRoom[] = {ENOSPC, EDQUOT, EFBIG};
+    return std::ranges::any_of(kNoRoom, [this](int code) { return reason == std::strerror(code); });
 }
 
 std::string CReceivedFile::Candidate(int number) const

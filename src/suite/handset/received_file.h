@@ -21,19 +21,23 @@ public:
 
     bool Begin();
     bool Add(std::span<const std::byte> bytes);
-    bool Keep();
+    // Gives the file its name and has its record added.
+    using AddRecord = std::function<bool(const std::string& recordFile, const std::string& name, int index)>;
+    bool Keep(int index, const AddRecord& addRecord);
     // Takes back what Keep did.
     void Drop();
 
     // Under which it was kept.
     const std::string& Name() const { return name; }
-    bool IsFull() const { return full; }
+    // Whether a failure on this side, which Error tells, was for want of room.
+    bool IsFull() const;
     const std::string& Error() const { return error; }
 
 private:
     bool Fail(const std::string& path);
     std::string Candidate(int number) const;
     bool IsSameAs(const std::string& path);
+    bool TakeName();
 
     std::string folder;  // with the separator
     std::string recordName;
@@ -42,8 +46,8 @@ private:
     std::unique_ptr<platform::CReplacement> pending;
     std::uint64_t size = 0;
     bool isNew = false;
-    bool full = false;
     std::string error;
+    std::string reason;  // the end of it, as the system says it
 };
 
 }  // namespace suite
