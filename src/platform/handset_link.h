@@ -5,8 +5,8 @@
 //
 // One object per operation, used by one thread: SetConnectPort, then ATInit, then the operation. All objects
 // of one port share one connection, which ends with the last of them; a run of many files therefore holds one
-// object from its start to its end. Whatever needs the connection while there is none begins with ATInit; when
-// nobody answered that, all but another ATInit fail at once.
+// object from its start to its end. Whatever needs the connection while there is none begins with ATInit;
+// when nobody answered that, all but another ATInit fail at once.
 //
 // Every call returns within its time-outs, whatever the handset does: an unplugged cable is noticed within a
 // second, silence within 30. Results are those of HandsetResult, but for GetFileCount; a result that is

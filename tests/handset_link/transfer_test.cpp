@@ -249,8 +249,8 @@ TEST_F(Transfer, AnEnemysNamesAndSizesEndUpAsPlainFilesOfTheFolder)
 
     EXPECT_EQ(count, 7) << "one has a zero in its name";
     EXPECT_THAT(FetchedNames(),
-                ElementsAre("_._.._up.jpg", "_etc_a.jpg", "_hidden", "a_b.jpg", "mobilefile (2).dbs",
-                            "mobilefile.dbs", std::string(236, 'n') + ".jpg", "_gpj.exe"));
+                ElementsAre("_._.._up.jpg", "_etc_a.jpg", "_gpj.exe", "_hidden", "a_b.jpg",
+                            "mobilefile (2).dbs", "mobilefile.dbs", std::string(236, 'n') + ".jpg"));
     EXPECT_EQ(support::ReadBytes(folder.Path("_._.._up.jpg")), "foreign");
     EXPECT_EQ(support::ReadBytes(records).size(), 7 * handset::kRecordSize);
 }
