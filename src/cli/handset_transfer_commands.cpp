@@ -131,7 +131,7 @@ void RunSend(CContext& context, const HandsetPort& port, const std::vector<std::
     std::vector<std::string> sources;
     std::vector<handset::TransferredFile> files;
     handset::CHandsetPreparation preparation;
-    for (const std::string& path : AbsolutePaths(paths)) {
+    for (const std::string& path : handset::WithoutArchives(AbsolutePaths(paths))) {
         if (Interruption() != 0) {
             return;
         }

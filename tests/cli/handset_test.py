@@ -70,7 +70,7 @@ class Handset(CommandCase):
         (self.work / "play.jar").write_text("archive")
         (self.work / "move.sss").touch()
         (self.work / "long.mmf").write_bytes(bytes(65537))
-        sent, told = self.handset("send", "long.mmf", *files, "gone.jpg", status=1)
+        sent, told = self.handset("send", "long.mmf", *files, "play.jar", "gone.jpg", status=1)
         self.assertEqual([(Path(file["path"]).name, file["type"], file["sentAs"], file["result"]) for file in sent["files"]],
                          [("long.mmf", 7, "long.mmf", 0), ("gone.jpg", 6, "gone.jpg", 0)] +
                          [(name, *facts, 1) for name, facts in files.items()])
