@@ -94,4 +94,21 @@ std::string DeviceOfPort(unsigned port)
     return ListPorts(Os().utility->ql_GetModulePath(), lines)[port - 1].device;
 }
 
+bool UseLine(const std::string& programFolder, const std::vector<SerialPort>& lines,
+             const std::string& device)
+{
+    const std::vector<PortEntry> ports = ListPorts(programFolder, lines);
+    const auto entry = std::ranges::find_if(ports, [&device](const PortEntry& candidate) {
+        return !candidate.device.empty() && IsSame(candidate.device, device);
+    });
+    if (entry == ports.end())
+        return false;
+    const auto position = static_cast<int>(entry - ports.begin());
+    OptionValues options = LoadOptions(programFolder);
+    if (options.portPosition == position)
+        return true;
+    options.portPosition = position;
+    return KeepPort(programFolder, ports, position) && SaveOptions(programFolder, options);
+}
+
 }  // namespace app

@@ -34,4 +34,9 @@ bool KeepPort(const std::string& programFolder, const std::vector<PortEntry>& po
 // listed for the lines that are there now. Any thread.
 std::string DeviceOfPort(unsigned port);
 
+// Makes the number of that line the handset's, written down as the option dialog does it. False when no
+// number stands for the line, or it could not be written.
+bool UseLine(const std::string& programFolder, const std::vector<platform::SerialPort>& lines,
+             const std::string& device);
+
 }  // namespace app

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CDevices: word of volumes that come and go while the program runs.
+// CDevices: word of volumes and serial lines that come and go while the program runs.
 #pragma once
 
 #include <cstdint>
@@ -32,6 +32,8 @@ public:
     virtual ~CDevices() = default;
     // Calls `handler` on the thread of the user interface from now on; null ends that. One handler at a time.
     virtual void Watch(Handler handler) = 0;
+    // Likewise when adapters' serial lines may have come or gone; CSerialPorts says which there are now.
+    virtual void WatchPorts(std::function<void()> handler) = 0;
 };
 
 }  // namespace platform

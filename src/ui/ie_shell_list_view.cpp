@@ -91,9 +91,16 @@ QWidget* CIEShellListView::MakeBar(const CMainMenu& menu)
     row->addWidget(sizeControl);
     row->addSpacing(2 * kGrid);
     row->addWidget(MakeButton(menu.Action(app::CommandId::thumbnails), QStringLiteral("thumbnails"), bar));
-    row->addWidget(MakeButton(menu.Action(app::CommandId::details), QStringLiteral("details"), bar));
+    lastOfBar = MakeButton(menu.Action(app::CommandId::details), QStringLiteral("details"), bar);
+    row->addWidget(lastOfBar);
     setTabOrder(wayUp, sizeControl);
     return bar;
+}
+
+void CIEShellListView::PutAbove(QWidget* widget)
+{
+    auto* column = static_cast<QVBoxLayout*>(layout());
+    column->insertWidget(column->indexOf(ctrl), widget);
 }
 
 void CIEShellListView::OpenFolder(const std::string& folder, const std::string& selectName)

@@ -28,6 +28,10 @@ public:
     CIEShellListCtrl* Ctrl() const { return ctrl; }
     void OpenFolder(const std::string& path, const std::string& selectName = {});
     QAction* UpAction() const { return up; }
+    // Takes the widget over and has it between the bar and the list.
+    void PutAbove(QWidget* widget);
+    // Where the Tab key is before it comes to what is above the list.
+    QWidget* LastOfBar() const { return lastOfBar; }
 
 private:
     QWidget* MakeBar(const CMainMenu& menu);
@@ -36,6 +40,7 @@ private:
     QAction* up;
     CPathLabel* path;
     QSlider* sizeControl;
+    QWidget* lastOfBar = nullptr;
     CIEShellListCtrl* ctrl;
 };
 

@@ -12,6 +12,7 @@
 #include "ui/files/report_box.h"
 #include "ui/frame/waiting_question.h"
 #include "ui/list/list_commands.h"
+#include "ui/notice/notice_watch.h"
 #include "ui/photo/photo_info_view.h"
 #include "ui/printer_defaults.h"
 #include "ui/theme.h"
@@ -247,8 +248,10 @@ void CMainFrame::WatchDevices()
     platform::CDevices* source = platform::Os().devices;
     if (!source)
         return;
+    notices = new CNoticeWatch(*source, *this);
     source->Watch([this](const platform::DeviceChange& change) {
         devices.OnDeviceChange(change);
+        notices->OnDeviceChange(change);
         InBackground(
             this, [shell = platform::Os().shell] { return shell->Volumes(); },
             [this](const std::vector<platform::Volume>& volumes) { left->UpdateVolumes(volumes); });

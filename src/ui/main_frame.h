@@ -36,6 +36,8 @@ class QSplitter;
 namespace ui
 {
 
+class CNoticeWatch;
+
 class CMainFrame : public QMainWindow
 {
     Q_OBJECT
@@ -73,6 +75,8 @@ public:
     CToolCommands& Tools() { return toolCommands; }
     app::CMainFrameState& State() { return state; }
     const app::CDeviceState& Devices() const { return devices; }
+    // Null where nothing is told of devices.
+    CNoticeWatch* Notices() const { return notices; }
     // Whether the thumbnail timer runs.
     bool IsTicking() const { return thumbnailTimer.isActive(); }
 
@@ -106,6 +110,7 @@ private:
     QSplitter* panes;
     CFileActions* files;
     CPhotoInfoPane* photoInfo;
+    CNoticeWatch* notices = nullptr;
     std::string nameWanted;  // to be selected in the folder that is about to open
     QTimer thumbnailTimer;
     CFrameBars bars;

@@ -116,3 +116,25 @@ TEST_F(Devices, WithoutUDisks2NothingIsToldOfTheBusAndNothingBreaks)
     EXPECT_FALSE(onBus.HasBus());
     EXPECT_TRUE(told.empty());
 }
+
+TEST_F(Devices, ASerialLineOfAnAdapterIsToldOnceItHasSettledAndNothingElseIs)
+{
+    const auto make = [this](const char* line) {
+        std::filesystem::create_symlink("/dev/null", folder.Path(line));
+    };
+    CLinuxDevices devices(QDBusConnection("never connected"), folder.Path("no table"), folder.Path());
+    int word = 0;
+    devices.WatchPorts([&word] { ++word; });
+
+    make("tty7");
+    make("ttyACM0");
+    make("ttyACM1");
+    ASSERT_TRUE(RunUntil([&] { return word > 0; }));
+    EXPECT_EQ(word, 1);
+    std::filesystem::remove(folder.Path("ttyACM0"));
+    ASSERT_TRUE(RunUntil([&] { return word > 1; }));
+    devices.WatchPorts(nullptr);
+    CLinuxDevices nowhere(QDBusConnection("never connected"), folder.Path("no table"), folder.Path("gone"));
+    nowhere.WatchPorts([&word] { ++word; });
+    EXPECT_EQ(word, 2);
+}

@@ -46,6 +46,7 @@ class CTestDevices : public platform::CDevices
 public:
     Handler handler;
     void Watch(Handler changed) override { handler = std::move(changed); }
+    void WatchPorts(std::function<void()>) override {}
 };
 
 class CTestPorts : public platform::CSerialPorts

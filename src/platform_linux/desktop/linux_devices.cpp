@@ -28,8 +28,9 @@ std::uint32_t UnitMask(const MountedFlags& among, const std::string& mountPoint)
 
 }  // namespace
 
-CLinuxDevices::CLinuxDevices(const QDBusConnection& systemBus, std::string mountTable)
-    : bus(systemBus), tableFile(std::move(mountTable))
+CLinuxDevices::CLinuxDevices(const QDBusConnection& systemBus, std::string mountTable,
+                             std::string deviceFiles)
+    : bus(systemBus), tableFile(std::move(mountTable)), deviceFolder(std::move(deviceFiles))
 {
     settle.setSingleShot(true);
     settle.setInterval(kSettleMilliseconds);
@@ -51,6 +52,11 @@ void CLinuxDevices::Watch(Handler changed)
     bus.connect(kUdisks, QString(), QStringLiteral("org.freedesktop.DBus.Properties"),
                 QStringLiteral("PropertiesChanged"), this, SLOT(OnBusSignal()));
     AskBus();
+}
+
+void CLinuxDevices::WatchPorts(std::function<void()> changed)
+{
+    lineNodes = changed ? std::make_unique<CLineNodes>(deviceFolder, std::move(changed)) : nullptr;
 }
 
 void CLinuxDevices::OnBusSignal()

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "platform/devices.h"
+#include "platform_linux/desktop/line_nodes.h"
 #include "platform_linux/desktop/udisks.h"
 #include "platform_linux/handle.h"
 
@@ -29,10 +30,11 @@ class CLinuxDevices final : public QObject, public platform::CDevices
 
 public:
     explicit CLinuxDevices(const QDBusConnection& systemBus = QDBusConnection::systemBus(),
-                           std::string mountTable = "/proc/self/mountinfo");
+                           std::string mountTable = "/proc/self/mountinfo", std::string deviceFiles = "/dev");
     ~CLinuxDevices() override;
 
     void Watch(Handler changed) override;
+    void WatchPorts(std::function<void()> changed) override;
     // Whether UDisks2 has answered.
     bool HasBus() const { return busAnswered; }
 
@@ -49,6 +51,7 @@ private:
 
     QDBusConnection bus;
     std::string tableFile;
+    std::string deviceFolder;
     Handler handler;
     QTimer settle;  // ends when a burst of signals is over
     std::unique_ptr<QDBusPendingCallWatcher> question;
@@ -57,6 +60,7 @@ private:
     bool busAnswered = false;
     CHandle table;
     std::unique_ptr<QSocketNotifier> tableNotifier;
+    std::unique_ptr<CLineNodes> lineNodes;
 };
 
 }  // namespace platform_linux
