@@ -3,7 +3,6 @@
 #include "app/handset_places.h"
 
 #include "browser/file_names.h"
-#include "handset/handset_fetch.h"
 #include "handset/record_file.h"
 #include "platform/file_system.h"
 
@@ -50,13 +49,6 @@ bool IsFromHandset(const std::string& folder)
     return platform::Os()
         .files->FindFirstFile(browser::JoinPath(folder, platform::kHandsetRecordFile))
         .has_value();
-}
-
-handset::FolderClass HandsetFolderClass(const CDataFolders& folders, const std::string& folder)
-{
-    const bool isRing = browser::FileName(folder) == handset::CategoryFolder(FileDataType::ring) ||
-                        IsBelow(folder, folders.FolderPath(DataFolderKind::ring));
-    return isRing ? handset::FolderClass::ring : handset::FolderClass::other;
 }
 
 void MakeProgramRecordFile(const std::string& programFolder, FileDataType mode)

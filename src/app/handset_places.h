@@ -4,7 +4,7 @@
 #pragma once
 
 #include "app/data_folders.h"
-#include "handset/handset_deletion.h"
+#include "platform/handset_link.h"
 
 #include <string>
 
@@ -19,7 +19,6 @@ std::string FetchDestination(const CDataFolders& folders, const std::string& cur
 
 // Whether the folder has received files from the handset.
 bool IsFromHandset(const std::string& folder);
-handset::FolderClass HandsetFolderClass(const CDataFolders& folders, const std::string& folder);
 
 // The empty record file that stands in the program folder once something was fetched in the mode. A program
 // folder that cannot be written is left alone.

@@ -74,7 +74,7 @@ bool CHandsetDelete::Ask(browser::FileTask task, const std::vector<std::string>&
     if (!app::IsFromHandset(folder))
         return false;
     const int port = app::HandsetPort(frame.Application().ProgramFolder());
-    const Order order{task, paths, app::HandsetFolderClass(frame.Folders(), folder),
+    const Order order{task, paths, handset::ClassOfFolder(paths.front()),
                       port > 0 ? static_cast<unsigned>(port) : 0};
     auto* box =
         new CMessageBox(QMessageBox::Question, Text(StringId::commandDelete),
