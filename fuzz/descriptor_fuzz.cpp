@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (name.empty())
         return 0;
     const auto at = static_cast<std::size_t>(name.data() - text.data());
-    const std::size_t key = text.rfind(kKey, at);
+    const std::size_t key = at < kKey.size() ? std::string::npos : text.rfind(kKey, at - kKey.size());
     const bool isBehindKey = key != std::string::npos && at + name.size() <= text.size() &&
                              text.find_first_not_of(kBlanks, key + kKey.size()) == at;
     const bool isOneLine = name.find('\n') == std::string_view::npos;
