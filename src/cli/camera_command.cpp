@@ -79,11 +79,9 @@ void ReportTrouble(CContext& context, const handset::CCameraCopy& copy)
 void CopyAll(CContext& context, handset::CCameraCopy& copy)
 {
     const CInterruptionGuard guard([&copy] { copy.Cancel(); });
-    if (!copy.Start()) {
-        return;
-    }
+    const bool hasBegun = copy.Start();
     ReportLeftOut(context);
-    while (Interruption() == 0 && copy.Step()) {
+    while (hasBegun && Interruption() == 0 && copy.Step()) {
     }
     copy.Finish();
     ReportTrouble(context, copy);

@@ -8,8 +8,14 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 
 namespace
 {
@@ -56,12 +62,54 @@ protected:
         return names;
     }
 
+    // Copies one photo as a process of its own, after `prepare`; whether it ends as told.
+    int CopyAlone(const std::function<bool()>& prepare, const std::function<bool()>& isAsTold)
+    {
+        const pid_t child = fork();
+        if (child == 0)
+            _exit(!prepare() ? kNotPossible : isAsTold() ? 0 : 1);
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    static constexpr int kNotPossible = 77;
     support::TestServices services;
     // Another file system than the card's where there is one, so that blocks cannot just be shared.
     support::CTempFolder card{fs::exists("/dev/shm") ? "/dev/shm" : "/tmp"};
     std::string copies = services.folder.Path("copies");
     suite::CMountedStore camera;
 };
+
+// From here on, this process cannot make files without a name, as on FAT.
+bool ForbidNamelessFiles()
+{
+    constexpr auto kFlags = offsetof(seccomp_data, args) + 2 * sizeof(std::uint64_t);
+    sock_filter rules[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, kFlags),
+        BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, O_TMPFILE & ~O_DIRECTORY, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EOPNOTSUPP),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program = {std::size(rules), rules};
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+// From here on, this process has a file system of its own in that folder, of that size; readOnly it has
+// nothing.
+bool MountOwn(const std::string& folder, const std::string& size, unsigned long flags)
+{
+    const uid_t user = geteuid();
+    if (unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWUSER | CLONE_NEWNS) != 0)
+        return false;
+    if (user != 0)
+        support::WriteBytes("/proc/self/uid_map", "0 " + std::to_string(user) + " 1");
+    return mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           mount("none", folder.c_str(), "tmpfs", flags, ("size=" + size).c_str()) == 0;
+}
 
 }  // namespace
 
@@ -160,6 +208,95 @@ TEST_F(CameraStore, FailsForWhatVanishedOrCannotBeWrittenAndLeavesNothingHalf)
     EXPECT_THAT(Copies(), IsEmpty());
     EXPECT_EQ(Copy(platform::kMsdPhoto, 1, "C"), 0);
     EXPECT_EQ(Count(platform::kMsdAll), 0);
+}
+
+TEST_F(CameraStore, KeepsUnfinishedCopiesHiddenWhereFilesNeedANameAndLeavesNone)
+{
+    Put("DCIM/a.JPG", "a");
+    Put("DCIM/b.MOV", "");
+    fs::resize_file(card.Path("DCIM/b.MOV"), 6'000'000'000);
+    static std::function<void()> duringCopy;
+    const int ended = CopyAlone(ForbidNamelessFiles, [this] {
+        Lines meanwhile;
+        duringCopy = [&] {
+            meanwhile = Copies();
+            camera.Abort(0);
+        };
+        const bool first = Connect() == 1 && Copy(platform::kMsdPhoto, 1, "DSC") == 1;
+        const bool second = camera.UploadFile(1, 1, platform::kMsdClip, copies + "/AVI.",
+                                              [](int, int) { duringCopy(); }) == 1;
+        camera.UnInitMsd();
+        return first && !second && meanwhile.size() == 2 && meanwhile[0].starts_with(".kelvo-");
+    });
+
+    EXPECT_EQ(ended, 0);
+    EXPECT_THAT(Copies(), ElementsAre("DSC.JPG"));
+    EXPECT_EQ(support::ReadBytes(copies + "/DSC.JPG"), "a");
+}
+
+TEST_F(CameraStore, SaysThatTheDiskIsFullOrWrittenProtectedAndKeepsTheCopiesThatAreWhole)
+{
+    Put("DCIM/a.JPG", std::string(600'000, 'a'));
+    Put("DCIM/b.JPG", std::string(600'000, 'b'));
+    const int full = CopyAlone([this] { return MountOwn(copies, "1m", 0); },
+                               [this] {
+                                   const bool isAsTold =
+                                       Connect() == 1 && Copy(platform::kMsdPhoto, 1, "A") == 1 &&
+                                       Copy(platform::kMsdPhoto, 2, "B") == 0 &&
+                                       camera.LastFailure() == platform::MsdFailure::diskFull;
+                                   camera.UnInitMsd();
+                                   const bool isClean = Copies() == Lines{"A.JPG"};
+                                   return isAsTold && isClean && fs::remove(copies + "/A.JPG") &&
+                                          Connect() == 1 && Copy(platform::kMsdPhoto, 2, "B") == 1;
+                               });
+    const int readOnly = CopyAlone([this] { return MountOwn(copies, "1m", MS_RDONLY); },
+                                   [this] {
+                                       return Connect() == 1 && Copy(platform::kMsdPhoto, 1, "A") == 0 &&
+                                              camera.LastError() == "Read-only file system" &&
+                                              camera.LastFailure() == platform::MsdFailure::other;
+                                   });
+
+    if (full == kNotPossible)
+        GTEST_SKIP() << "no file systems of its own here";
+    EXPECT_EQ(full, 0);
+    EXPECT_EQ(readOnly, 0);
+}
+
+TEST_F(CameraStore, ASurveyCountsWithoutAConnectionAndNoFurtherThanItMay)
+{
+    EXPECT_FALSE(camera.Survey("Dev.ini"));
+    Put("DCIM/1/a.JPG", "a");
+    Put("DCIM/1/b.AVI", "b");
+    ASSERT_EQ(Connect(), 1);
+    const auto found = camera.Survey("Dev.ini");
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->root, card.Path());
+    EXPECT_EQ(found->label, fs::path(card.Path()).filename());
+    EXPECT_EQ(found->photos * 10 + found->clips, 11);
+    EXPECT_FALSE(found->isCut);
+
+    const suite::DeviceRules rules = suite::ReadDeviceFile("Dev.ini");
+    for (const auto& [bounds, files] :
+         {std::pair{suite::ListBounds{1, 100}, 1U}, {{100, 2}, 1U}, {{2, 100}, 2U}}) {
+        const suite::StoreList list = suite::ListStore(card.Path(), rules, bounds);
+        EXPECT_EQ(list.photos.size() + list.clips.size(), files);
+        EXPECT_EQ(list.isCut, files < 2);
+    }
+}
+
+TEST_F(CameraStore, TellsACardThatIsGoneFromAPhotoThatIs)
+{
+    Put("DCIM/a.JPG", "a");
+    ASSERT_EQ(Connect(), 1);
+    fs::remove(card.Path("DCIM/a.JPG"));
+    EXPECT_EQ(Copy(platform::kMsdPhoto, 1, "A"), 0);
+    EXPECT_EQ(camera.LastFailure(), platform::MsdFailure::other);
+    Put("DCIM/a.JPG", "a");
+    ASSERT_EQ(Connect(), 1);
+    fs::remove_all(card.Path());
+    EXPECT_EQ(Copy(platform::kMsdPhoto, 1, "A"), 0);
+    EXPECT_EQ(camera.LastFailure(), platform::MsdFailure::storeGone);
+    EXPECT_THAT(Copies(), IsEmpty());
 }
 
 TEST_F(CameraStore, AbortEndsTheCopyInWorkUntilTheNextConnection)

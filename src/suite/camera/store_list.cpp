@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
@@ -42,20 +43,22 @@ std::vector<std::string> SortedNames(std::vector<std::pair<std::string, std::str
     return sorted;
 }
 
-// The names in a folder but for hidden ones, no more than `most`; false when it cannot be listed.
-bool ReadNames(const std::string& folder, std::vector<std::string>& sorted,
-               std::size_t most = std::numeric_limits<std::size_t>::max())
+// The names in a folder but for hidden ones; looks at no more than `left`, which becomes smaller by those.
+// False when the folder cannot be listed.
+bool ReadNames(const std::string& folder, std::vector<std::string>& sorted, std::size_t& left)
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
     if (!stream)
         return false;
     std::vector<std::pair<std::string, std::string>> names;
     errno = 0;
-    for (std::size_t read = 0; read < most; ++read) {
+    while (left > 0) {
         const dirent* entry = readdir(stream.get());
         if (!entry)
             break;
-        if (entry->d_name[0] != '.')
+        const std::string_view name = entry->d_name;
+        left -= name == "." || name == ".." ? 0 : 1;
+        if (name.front() != '.')
             names.emplace_back(LowerCase(entry->d_name), entry->d_name);
         errno = 0;
     }
@@ -95,7 +98,6 @@ public:
         std::vector<std::string> names;
         if (!ReadNames(folder, names, left.names))
             list.leftOut.push_back(folder);
-        left.names -= names.size();
         list.isCut |= left.names == 0;
         for (const std::string& name : names)
             Look(folder + '/' + name, name, depth);
@@ -139,7 +141,8 @@ std::vector<std::string> PhotoFolders(const std::string& root, const DeviceRules
     std::vector<std::string> found;
     std::vector<std::string> names;
     std::vector<std::string> below;
-    ReadNames(root, names, kMostAbove);
+    std::size_t left = kMostAbove;
+    ReadNames(root, names, left);
     for (const std::string& name : names) {
         const std::string path = root + '/' + name;
         if (!IsFolder(path))
@@ -148,7 +151,8 @@ std::vector<std::string> PhotoFolders(const std::string& root, const DeviceRules
             found.push_back(path);
             continue;
         }
-        ReadNames(path, below, kMostAbove);
+        left = kMostAbove;
+        ReadNames(path, below, left);
         for (const std::string& inner : below) {
             if (IsOneOf(LowerCase(inner), rules.folders) && IsFolder(path + '/' + inner))
                 found.push_back(path + '/' + inner);
@@ -195,9 +199,10 @@ std::vector<FoundStore> FindStores(const DeviceRules& rules)
 bool IsStillThere(const FoundStore& store)
 {
     std::vector<std::string> names;
+    std::size_t left = kMostAbove;
     const std::string device =
         "/sys/dev/block/" + std::to_string(major(store.device)) + ':' + std::to_string(minor(store.device));
-    return DeviceOf(store.root) == store.device && ReadNames(store.root, names, kMostAbove) &&
+    return DeviceOf(store.root) == store.device && ReadNames(store.root, names, left) &&
            (major(store.device) == 0 || access(device.c_str(), F_OK) == 0);
 }
 
