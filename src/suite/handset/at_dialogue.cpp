@@ -73,15 +73,16 @@ bool CAtDialogue::AnswersToAt()
 
 bool CAtDialogue::EnterObex()
 {
-    const auto enter = [this](const char* command) {
-        std::string answer;
+    std::string answer;
+    const auto enter = [&](const char* command) {
         return Ask(command, patience.entering, answer) && answer.find("CONNECT") != std::string::npos;
     };
     if (!enter("AT+CPROT=0") && !enter("AT*EOBEX") && !enter("AT+MODE=22"))
         return false;
     // A line feed that comes late would spoil the first packet.
+    const int settling = answer.ends_with('\n') ? patience.settling / 4 : patience.settling;
     std::string rest;
-    while (rest.size() < kLongestAnswer && line.Read(rest, patience.settling) == CSerialLine::State::data) {
+    while (rest.size() < kLongestAnswer && line.Read(rest, settling) == CSerialLine::State::data) {
     }
     return line.IsOpen();
 }
