@@ -1485,8 +1485,8 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <translation type="unfinished">لا يمكن نقل أيٍّ من هذه الملفات.</translation>
   </message>
   <message id="handsetInAll">
-   <source>%1 in all</source>
-   <translation type="unfinished">المجموع %1</translation>
+   <source>%1 in all.</source>
+   <translation type="unfinished">المجموع %1.</translation>
   </message>
   <message id="handsetSending">
    <source>Sending %1</source>

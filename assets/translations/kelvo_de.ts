@@ -1361,8 +1361,8 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <translation type="unfinished">Keine dieser Dateien kann übertragen werden.</translation>
   </message>
   <message id="handsetInAll">
-   <source>%1 in all</source>
-   <translation type="unfinished">%1 insgesamt</translation>
+   <source>%1 in all.</source>
+   <translation type="unfinished">%1 insgesamt.</translation>
   </message>
   <message id="handsetSending">
    <source>Sending %1</source>

@@ -4,6 +4,7 @@
 
 #include "app/handset_places.h"
 #include "browser/file_names.h"
+#include "handset/record_file.h"
 #include "ui/controls/message_box.h"
 #include "ui/display_text.h"
 #include "ui/main_frame.h"
@@ -112,11 +113,13 @@ void CHandsetDelete::Remove(const Order& order)
                 DeleteHere(order);
         },
         Qt::SingleShotConnection);
-    jobs.Start(browser::FileTask::removeFromHandset, order.paths.size(),
-               [order](browser::CFileJobHost& host) {
-                   handset::CHandsetDeletion deletion(order.paths, order.folderClass, order.port);
-                   return RemoveFromHandset(deletion, host);
-               });
+    std::vector<std::string> paths = order.paths;
+    // The record file itself never was on the handset.
+    std::erase_if(paths, [](const std::string& path) { return path == handset::RecordFileOf(path); });
+    jobs.Start(browser::FileTask::removeFromHandset, paths.size(), [=](browser::CFileJobHost& host) {
+        handset::CHandsetDeletion deletion(paths, order.folderClass, order.port);
+        return RemoveFromHandset(deletion, host);
+    });
 }
 
 void CHandsetDelete::DeleteHere(const Order& order)

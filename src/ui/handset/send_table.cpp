@@ -105,9 +105,10 @@ CSendTable::CSendTable(std::vector<std::string> files, QWidget* parent)
     setHeaderLabels(headings);
     header()->setStretchLastSection(true);
     setIconSize({kIconSide, kIconSide});
-    const int widths[] = {36 * kGrid, 30 * kGrid, 22 * kGrid, 18 * kGrid};
-    for (int column = 0; column < noteColumn; ++column)
+    const int widths[] = {36 * kGrid, 32 * kGrid, 24 * kGrid};
+    for (int column = 0; column < sizeColumn; ++column)
         header()->resizeSection(column, widths[column]);
+    header()->setSectionResizeMode(sizeColumn, QHeaderView::ResizeToContents);
     QList<QTreeWidgetItem*> rows;
     for (const std::string& path : paths) {
         auto* item = new QTreeWidgetItem;
