@@ -7,7 +7,6 @@
 #include "platform/services.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace app
@@ -83,19 +82,17 @@ void CNotices::SetPorts(const std::vector<platform::SerialPort>& now)
 
 const Notice* CNotices::Current() const
 {
-    for (const Arrival& arrival : std::views::reverse(arrivals)) {
-        if (!arrival.isAnswered)
-            return &arrival.notice;
-    }
-    return nullptr;
+    const auto latest = std::find_if(arrivals.rbegin(), arrivals.rend(),
+                                     [](const Arrival& arrival) { return !arrival.isAnswered; });
+    return latest == arrivals.rend() ? nullptr : &latest->notice;
 }
 
 void CNotices::AnswerCurrent()
 {
-    for (Arrival& arrival : std::views::reverse(arrivals)) {
-        if (!std::exchange(arrival.isAnswered, true))
-            return;
-    }
+    const auto latest = std::find_if(arrivals.rbegin(), arrivals.rend(),
+                                     [](const Arrival& arrival) { return !arrival.isAnswered; });
+    if (latest != arrivals.rend())
+        latest->isAnswered = true;
 }
 
 void CNotices::Answer(NoticeKind kind)
