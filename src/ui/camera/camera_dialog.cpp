@@ -13,6 +13,7 @@
 #include "ui/words.h"
 
 #include <QDialogButtonBox>
+#include <QLocale>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -135,7 +136,7 @@ void CCameraDialog::OnCount(int copied, int total, const std::string& folder)
     bar->setValue(copied);
     where->SetPath(folder);
     if (stop->isEnabled())
-        text->setText(Text(StringId::cameraCount, QString::number(copied), QString::number(total)));
+        text->setText(Text(StringId::cameraCount, QLocale().toString(copied), QLocale().toString(total)));
 }
 
 void CCameraDialog::StopCopy()
