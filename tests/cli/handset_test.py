@@ -43,6 +43,10 @@ class Handset(CommandCase):
         tessa = {"result": True, "manufacturer": "Halden", "model": "Tessa 1"}
         self.assertEqual(self.handset("identify")[0], tessa)
         self.assertEqual(self.json("handset", "--device", "../port", "identify"), tessa)
+        stand_in = self.work / "stand-in"
+        stand_in.write_text(f'#!/bin/sh\nexec "{TOP}/tools/handset-simulator" --shim "{SHIM}" "$@"\n')
+        stand_in.chmod(0o755)
+        self.assertEqual(self.json("handset", "--device", "stand-in", "identify"), tessa)
         self.run_it("settings", "set", "port", "3", status=0)
         self.assertEqual(self.run_it("handset", "identify").stdout, b"Halden\tTessa 1\n")
         (self.root / "Frame/x.jpg").touch()

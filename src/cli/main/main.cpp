@@ -3,6 +3,7 @@
 #include "app/port_list.h"
 #include "cli/commands.h"
 #include "handset/record_file.h"
+#include "platform_linux/handset_program.h"
 #include "platform_linux/linux_serial_ports.h"
 #include "platform_linux/services.h"
 #include "suite/camera/msd_module.h"
@@ -22,7 +23,11 @@ int main(int argc, char** argv)
     platform::Os().cameraStore = &camera;
     platform_linux::CLinuxSerialPorts serialPorts;
     platform::Os().serialPorts = &serialPorts;
-    suite::CHandsetLibrary handset({app::DeviceOfPort, handset::AddHandsetRecord, {}});
+    platform_linux::CHandsetProgram handsetProgram;
+    const auto deviceOfPort = [&](unsigned port) {
+        return handsetProgram.TerminalOf(app::DeviceOfPort(port));
+    };
+    suite::CHandsetLibrary handset({deviceOfPort, handset::AddHandsetRecord, {}});
     platform::Os().handset = &handset;
     return cli::Run(argc, argv, KELVO_VERSION);
 }
