@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/handset_places.h"
 #include "app/string_table.h"
 #include "cli/handset_commands.h"
 #include "cli/interruption_guard.h"
@@ -193,6 +194,7 @@ void RunFetch(CContext& context, const HandsetPort& port, const FetchArguments& 
     CTransferTeller teller(context);
     std::vector<handset::TransferredFile> files;
     for (const handset::FetchChoice& choice : choices) {
+        app::MakeProgramRecordFile(context.Application().ProgramFolder(), choice.mode);
         handset::CHandsetFetch run(choice, target, number, teller);
         const handset::TransferEnd end = Follow(context, run, files);
         if (end != handset::TransferEnd::finished && teller.message != StringId::handsetNoItem) {

@@ -366,6 +366,20 @@ TEST_F(Transfer, FoldersOfTheModelComeBeforeThoseOfAllAndTheInstalledFileShowsTh
     EXPECT_EQ(support::ReadBytes(simulator.root.Path("Frame/b.jpg")), "b");
 }
 
+TEST_F(Transfer, AHandsetThatDidNotAnswerIsAskedAgainOnlyByTheNextGreeting)
+{
+    platform::Os().handset = &impatient;
+    const auto held = NewLink();
+    simulator.SetFaults("silent");
+    EXPECT_EQ(held->GetFileCount(FileDataType::ring), -1);
+    simulator.SetFaults("");
+
+    EXPECT_EQ(held->GetFileCount(FileDataType::ring), -1) << "a run of many files would take minutes";
+    EXPECT_THAT(held->LastError(), testing::HasSubstr("no handset answers"));
+    EXPECT_EQ(held->ATInit(), 1) << held->LastError();
+    EXPECT_EQ(held->GetFileCount(FileDataType::ring), 0) << held->LastError();
+}
+
 TEST_F(Transfer, ALineThatCannotBeHadSaysWhichItIsAndWhatToDo)
 {
     const std::string device = std::filesystem::canonical(simulator.Port()).string();
