@@ -182,8 +182,8 @@ std::vector<ListedFile> ReadFolderListing(std::string_view listing, int category
             files.push_back(std::move(file));
     }
     std::ranges::stable_sort(files, {}, &ListedFile::name);
-    const auto rest = std::ranges::unique(files, {}, &ListedFile::name);
-    files.erase(rest.begin(), rest.end());
+    const auto isSame = [](const ListedFile& one, const ListedFile& other) { return one.name == other.name; };
+    files.erase(std::unique(files.begin(), files.end(), isSame), files.end());
     GiveIndices(files, category);
     return files;
 }
