@@ -20,7 +20,8 @@ class CommandCase(unittest.TestCase):
         self.work = Path(self.folder.name) / "work"
         self.home.mkdir()
         self.work.mkdir()
-        self.env = {"HOME": str(self.home), "PATH": os.environ["PATH"]}
+        self.env = {"HOME": str(self.home), "PATH": os.environ["PATH"],
+                    "LSAN_OPTIONS": os.environ.get("LSAN_OPTIONS", "")}
 
     def run_it(self, *words, status=0):
         done = subprocess.run([KELVOCTL, *words], env=self.env, cwd=self.work, capture_output=True, timeout=60)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Kelvo authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "suite/handset/obex_client.h"
+#include "suite/handset/obex_packet.h"
 
 #include <QElapsedTimer>
 #include <QString>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -20,7 +22,11 @@ namespace
 {
 
 constexpr int kSlice = 100;
-constexpr std::uint16_t kPacket = 8192;
+constexpr std::uint16_t kPacket = kLongestPacket;
+constexpr std::size_t kConnectFields = 4;
+// What a refused CONNECT should be answered with: code, length, version, flags, longest packet. Of an answer
+// that is shorter, the library takes the missing bytes for a length below 0.
+constexpr std::string_view kWholeAnswer("\xC0\0\x07\x10\0\x20\0", 7);
 constexpr std::array<std::uint8_t, 16> kFolderBrowsing = {0xF9, 0xEC, 0x7B, 0xC4, 0x95, 0x3C, 0x11, 0xD2,
                                                           0x98, 0x4E, 0x52, 0x54, 0x00, 0xDC, 0x9E, 0x09};
 
@@ -53,15 +59,18 @@ private:
     void TakeMore(obex_object_t* object);
     void End(ObexAnswer::Kind kind, int code = 0) { ended = ended ? ended : ObexAnswer{kind, code}; }
     int TakeInput(int milliseconds);
+    int PassPackets();
 
     CSerialLine& line;
     LinePatience times;
     std::function<bool()> stop;
     obex_t* obex = nullptr;
-    std::string input;  // came over the line and is not taken yet
+    std::string coming;  // came over the line, the beginning of a packet
+    std::string input;   // whole packets that are not taken yet
     std::size_t inputTaken = 0;
     QElapsedTimer quiet;
     int patience = 0;  // of the running request, milliseconds
+    bool isConnecting = false;
     std::optional<std::uint32_t> connection;
     std::optional<ObexAnswer> ended;
     const Source* source = nullptr;
@@ -114,10 +123,10 @@ int COpenObexClient::TakeInput(int milliseconds)
         return 1;
     input.clear();
     inputTaken = 0;
-    switch (line.Read(input, milliseconds)) {
+    switch (line.Read(coming, milliseconds)) {
     case CSerialLine::State::data:
         quiet.restart();
-        return 1;
+        return PassPackets();
     case CSerialLine::State::nothing:
         return 0;
     case CSerialLine::State::gone:
@@ -125,6 +134,28 @@ int COpenObexClient::TakeInput(int milliseconds)
     }
     End(ObexAnswer::Kind::gone);
     return -1;
+}
+
+// The library below trusts the lengths in a packet, so no other gets there.
+int COpenObexClient::PassPackets()
+{
+    std::size_t length = 0;
+    for (;;) {
+        switch (LookAtPacket(coming, isConnecting ? kConnectFields : 0, length)) {
+        case PacketState::whole:
+            if (isConnecting && length < kWholeAnswer.size())
+                input.append(coming, 0, 1).append(kWholeAnswer.substr(1));
+            else
+                input.append(coming, 0, length);
+            coming.erase(0, length);
+            break;
+        case PacketState::partial:
+            return input.empty() ? 0 : 1;
+        case PacketState::bad:
+            End(ObexAnswer::Kind::garbled);
+            return -1;
+        }
+    }
 }
 
 obex_object_t* COpenObexClient::NewRequest(std::uint8_t command)
@@ -172,7 +203,10 @@ ObexAnswer COpenObexClient::Connect()
     if (!request)
         return {ObexAnswer::Kind::gone};
     AddBytes(request, OBEX_HDR_TARGET, kFolderBrowsing);
-    return Run(request, times.request);
+    isConnecting = true;
+    const ObexAnswer answer = Run(request, times.request);
+    isConnecting = false;
+    return answer;
 }
 
 ObexAnswer COpenObexClient::SetPath(const std::string& folder)
