@@ -1422,10 +1422,6 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
    <source>Progress in all</source>
    <translation type="unfinished">التقدّم الكلي</translation>
   </message>
-  <message id="handsetBusy">
-   <source>Another program or window is already talking to a handset.</source>
-   <translation type="unfinished">برنامج آخر أو نافذة أخرى تتصل بهاتف الآن.</translation>
-  </message>
   <message id="handsetSendTitle">
    <source>Download to Mobile</source>
    <translation type="unfinished">نقل إلى الهاتف</translation>
@@ -1617,10 +1613,6 @@ Their packages are usually called xscreensaver and xscreensaver-gl.</source>
   <message id="handsetKeptFiles">
    <source>What has arrived is in %1.</source>
    <translation type="unfinished">ما وصل موجود في %1.</translation>
-  </message>
-  <message id="handsetNotListed">
-   <source>%1 could not be read: %2</source>
-   <translation type="unfinished">تعذّرت قراءة %1: %2</translation>
   </message>
   <message id="handsetNoFolder">
    <source>Choose a folder to copy into first.</source>

@@ -1306,10 +1306,6 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
    <source>Progress in all</source>
    <translation type="unfinished">Fortschritt insgesamt</translation>
   </message>
-  <message id="handsetBusy">
-   <source>Another program or window is already talking to a handset.</source>
-   <translation type="unfinished">Ein anderes Programm oder Fenster spricht bereits mit einem Handy.</translation>
-  </message>
   <message id="handsetSendTitle">
    <source>Download to Mobile</source>
    <translation type="unfinished">Auf das Handy übertragen</translation>
@@ -1485,10 +1481,6 @@ Ihre Pakete heißen meist xscreensaver und xscreensaver-gl.</translation>
   <message id="handsetKeptFiles">
    <source>What has arrived is in %1.</source>
    <translation type="unfinished">Was angekommen ist, liegt in %1.</translation>
-  </message>
-  <message id="handsetNotListed">
-   <source>%1 could not be read: %2</source>
-   <translation type="unfinished">%1 konnte nicht gelesen werden: %2</translation>
   </message>
   <message id="handsetNoFolder">
    <source>Choose a folder to copy into first.</source>
